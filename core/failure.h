@@ -1,0 +1,38 @@
+#pragma once
+// A run-time failure of the program's own language semantics. A handler that
+// arms a failure path catches it once at its top; procedures without a handler
+// let it travel to their caller.
+#include <exception>
+#include <string>
+
+namespace ostraline {
+
+enum class FailureKind {
+  SubscriptOutOfRange,
+  TypeMismatch,
+  DivisionByZero,
+  Overflow,
+  InputPastEnd,
+  FileNotFound,
+  Cancelled,
+  InvalidProcedureCall,
+};
+
+class RuntimeFailure : public std::exception {
+ public:
+  explicit RuntimeFailure(FailureKind kind, std::string detail = {});
+  FailureKind Kind() const { return kind_; }
+  const std::string& Detail() const { return detail_; }
+  const char* what() const noexcept override { return message_.c_str(); }
+
+ private:
+  FailureKind kind_;
+  std::string detail_;
+  std::string message_;
+};
+
+const char* FailureName(FailureKind kind);
+
+[[noreturn]] void Fail(FailureKind kind, std::string detail = {});
+
+}  // namespace ostraline
