@@ -1,0 +1,196 @@
+// The correlation model's import: the file, the model depths, and the form
+// opened for work at its first target.
+#include "core/correlation_model.h"
+
+#include "core/depth_conversions.h"
+#include "core/field_reader.h"
+#include "core/file_names.h"
+#include "core/number_text.h"
+#include "core/project_state.h"
+#include "display/frm_main.h"
+#include "display/platform.h"
+
+namespace ostraline {
+namespace {
+
+// One row of the file: the splice column, three fields for each bore hole,
+// the composite depth, and four dropped fields in the long layout.
+void ReadModelRow(FieldReader& file, long row, bool longLayout, bool spliceAlreadyRead) {
+  if (!spliceAlreadyRead) TieCell(0, row) = file.ReadText();
+  for (int hole = 1; hole <= 4; ++hole) {
+    for (int item = 0; item <= 2; ++item) ModelCell(0, hole, item, row) = file.ReadText();
+  }
+  TieCell(1, row) = file.ReadText();
+  if (longLayout) {
+    for (int extra = 0; extra < 4; ++extra) file.ReadText();
+  }
+}
+
+// Every cell carries one prefix character; a cell of length 0 has none to drop.
+std::string DropPrefix(const std::string& cell) { return Right(cell, Len(cell) - 1); }
+
+bool StartsWith(const std::string& text, const char* head) {
+  return Left(text, Len(head)) == head;
+}
+
+void ReadHoleHeader(FrmMain& form, int hole) {
+  const std::string x = ModelCell(0, hole, 0, 0);
+  long p = Len(x) - 1;
+  // Without a "(" the scan reaches position 0, which is no valid position.
+  while (Mid(x, p, 1) != "(") --p;
+  const std::string a = Mid(x, p + 1, Len(x) - p - 1);
+  const std::string b = Trim(Left(x, p - 1));
+  if (Len(a) == 1) {
+    HoleName(hole) = a;
+    HoleTitle(hole) = b;
+  } else {
+    HoleTitle(hole) = a;
+  }
+  if (StartsWith(b, "Bore hole") || StartsWith(b, "Bore Hole") || StartsWith(b, "Lamina name") ||
+      StartsWith(b, "Lamina Name")) {
+    form.Label1(hole).Caption = "Bore hole " + HoleName(hole);
+  } else {
+    form.Label1(hole).Caption = HoleName(hole) + " (" + HoleTitle(hole) + ")";
+  }
+  form.mnuBH(hole).Caption = "Bore hole " + HoleName(hole);
+}
+
+void ReadModelFile(FrmMain& form, FieldReader& file) {
+  ModelCell.Dim({{0, 3}, {0, 5}, {0, 2}, {0, 5000}});
+  TieCell.Dim({{0, 3}, {0, 5000}});
+  ReadModelRow(file, 0, false, false);
+  const std::string f = file.ReadText();
+  // A splice cell of a data row holds its prefix and one letter: three or
+  // more characters can only be the header's fifteenth column.
+  const bool longLayout = Len(f) >= 3;
+  if (longLayout) {
+    for (int extra = 0; extra < 3; ++extra) file.ReadText();
+  } else {
+    TieCell(0, 1) = f;
+  }
+  ReadModelRow(file, 1, longLayout, !longLayout);
+  long row = 2;
+  while (!file.Eof()) {
+    ReadModelRow(file, row, longLayout, false);
+    ++row;
+  }
+  LastRow = row - 1;
+
+  for (long r = 0; r <= LastRow; ++r) {
+    for (int item = 0; item <= 2; ++item) {
+      for (int hole = 1; hole <= 4; ++hole) {
+        std::string cell = DropPrefix(ModelCell(0, hole, item, r));
+        if (Right(cell, 1) == "*" || Left(cell, 1) == "*") cell = "9999";
+        ModelCell(0, hole, item, r) = cell;
+      }
+    }
+  }
+  for (long r = 0; r <= LastRow; ++r) {
+    TieCell(0, r) = Trim(TieCell(0, r));
+    for (int hole = 1; hole <= 4; ++hole) {
+      for (int item = 0; item <= 2; ++item) ModelCell(0, hole, item, r) = Trim(ModelCell(0, hole, item, r));
+    }
+    TieCell(1, r) = Trim(TieCell(1, r));
+  }
+  ModelCell.ReDimPreserve(LastRow);
+  TieCell.ReDimPreserve(LastRow);
+  form.ProgressBar1.Min = 0;
+  form.ProgressBar1.Value = 0;
+  form.ProgressBar1.Max = static_cast<float>(LastRow) * 8;
+  form.ProgressBar1.Visible = true;
+  Screen.SetMousePointer(11);
+
+  const char* defaults[] = {"A", "B", "C", "D"};
+  for (int hole = 1; hole <= 4; ++hole) HoleName(hole) = defaults[hole - 1];
+  for (int hole = 1; hole <= 4; ++hole) ReadHoleHeader(form, hole);
+
+  for (int column = 0; column <= 1; ++column) {
+    for (long r = 0; r <= LastRow; ++r) {
+      std::string cell = Trim(DropPrefix(TieCell(column, r)));
+      if (cell.empty() || cell == "---") cell = "9999";
+      TieCell(column, r) = cell;
+    }
+  }
+}
+
+void SweepSections(FrmMain& form) {
+  SectionName.Dim({{0, 4}, {0, 500}});
+  SectionTopRow.Dim({{0, 4}, {0, 500}});
+  SectionBottomRow.Dim({{0, 4}, {0, 500}});
+  for (int hole = 1; hole <= 4; ++hole) {
+    SectionCount(hole) = 0;
+    for (long r = 1; r <= LastRow; ++r) {
+      const std::string& label = ModelCell(0, hole, 0, r);
+      if (IsSectionTop(label)) {
+        ++SectionCount(hole);
+        SectionName(hole, SectionCount(hole)) = SectionFromLabel(label);
+        SectionTopRow(hole, SectionCount(hole)) = static_cast<int>(r);
+      } else if (IsSectionBottom(label)) {
+        SectionBottomRow(hole, SectionCount(hole)) = static_cast<int>(r);
+      }
+      form.ProgressBar1.Value = form.ProgressBar1.Value + 1;
+    }
+  }
+}
+
+}  // namespace
+
+void SweepModelDepths(FrmMain& form) {
+  for (int hole = 1; hole <= 4; ++hole) {
+    SectionCount(hole) = 0;
+    for (long r = 1; r <= LastRow; ++r) {
+      if (IsSectionTop(ModelCell(0, hole, 0, r))) ++SectionCount(hole);
+      const std::string psp = ModelCell(0, hole, 1, r);
+      if (Val(Right(psp, 4)) != 9999 && psp != "---") {
+        ModelCell(1, hole, 2, r) =
+            CompositeFromTrinity(hole, SectionCount(hole), CSng(Val(psp))).ToText();
+        ModelCell(1, hole, 1, r) = psp;
+      } else {
+        ModelCell(1, hole, 2, r) = "9999";
+      }
+      // The tie itself wins over the computed value; a PSP that is no number fails here.
+      const bool pspGiven = CDbl(psp) != 9999;
+      const bool cdGiven = CDbl(TieCell(1, r)) != 9999;
+      if (pspGiven && cdGiven && !TieCell(1, r).empty()) ModelCell(1, hole, 2, r) = TieCell(1, r);
+      form.ProgressBar1.Value = form.ProgressBar1.Value + 1;
+    }
+  }
+  int largest = 0;
+  for (int hole = 1; hole <= 4; ++hole) largest = std::max<int>(largest, SectionCount(hole));
+  SectionName.ReDimPreserve(largest);
+  SectionTopRow.ReDimPreserve(largest);
+  SectionBottomRow.ReDimPreserve(largest);
+  DeepestBottom = 0;
+  for (int hole = 1; hole <= 4; ++hole) {
+    CoreBottom(hole) =
+        CSng(Val(ModelCell(1, hole, 2, SectionBottomRow(hole, SectionCount(hole)))));
+  }
+  for (int hole = 1; hole <= 4; ++hole) {
+    if (CoreBottom(hole) != 9999 && CoreBottom(hole) > DeepestBottom) DeepestBottom = CoreBottom(hole);
+  }
+  form.Slider1.Max = static_cast<long>(Round(DeepestBottom - 0.5, 0));
+}
+
+void FrmMain::Command1_Click() {
+  bool fileOpen = false;
+  try {
+    CommonDialog1.CancelError = true;
+    CommonDialog1.Filter = "DataFile(*.csv)|*.csv";
+    CommonDialog1.ShowOpen();
+    FieldReader file = FieldReader::Open(CommonDialog1.FileName);
+    fileOpen = true;
+    ModelVersion = VersionDate(CommonDialog1.FileName);
+    Caption = Caption + "   [" + FileStem(CommonDialog1.FileName) + "]";
+    ReadModelFile(*this, file);
+    SweepSections(*this);
+    SweepModelDepths(*this);
+    OpenFormForWork(*this);
+  } catch (const RuntimeFailure&) {
+    ProgressBar1.Value = 0;
+    ProgressBar1.Visible = false;
+    Screen.SetMousePointer(0);
+    if (fileOpen) MsgBox("File format error.", MsgButtons::Ok, "Error", MsgIcon::Exclamation);
+  }
+}
+
+}  // namespace ostraline

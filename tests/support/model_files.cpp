@@ -1,0 +1,49 @@
+#include "support/model_files.h"
+
+#include <filesystem>
+#include <fstream>
+
+#include <gtest/gtest.h>
+
+namespace ostraline {
+
+ModelRow DefaultHeader() {
+  ModelRow row{"Splice", {}, "Composite depth"};
+  for (char hole : std::string("ABCD")) {
+    row.holes.insert(row.holes.end(),
+                     {std::string("Bore hole ") + hole + " (" + hole + ")", "PSP", "Drilling depth"});
+  }
+  return row;
+}
+
+ModelRow RowA(const std::string& label, const std::string& psp, const std::string& drill,
+              const std::string& cd, const std::string& splice) {
+  ModelRow row{splice, {label, psp, drill}, cd};
+  for (int hole = 2; hole <= 4; ++hole) row.holes.insert(row.holes.end(), {"*", "*", "*"});
+  return row;
+}
+
+std::string ModelText(const std::vector<ModelRow>& rows, bool longLayout) {
+  std::string text;
+  for (std::size_t r = 0; r < rows.size(); ++r) {
+    const ModelRow& row = rows[r];
+    text += "'" + row.splice;
+    for (const std::string& cell : row.holes) text += ",'" + cell;
+    text += ",'" + row.cd;
+    if (longLayout) text += r == 0 ? ",'Master kind,'Master hole,'Master section,'Master PSP" : ",'x,'x,'x,'x";
+    text += "\r\n";
+  }
+  return text;
+}
+
+std::string WriteTempFile(const std::string& name, const std::string& content) {
+  const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
+  const std::filesystem::path folder = std::filesystem::temp_directory_path() / "ostraline-tests" /
+                                       (std::string(info->test_suite_name()) + "." + info->name());
+  std::filesystem::create_directories(folder);
+  const std::filesystem::path path = folder / name;
+  std::ofstream(path, std::ios::binary) << content;
+  return path.string();
+}
+
+}  // namespace ostraline

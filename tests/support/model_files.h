@@ -1,0 +1,26 @@
+#pragma once
+// Small correlation models written to a temporary folder for the tests.
+#include <string>
+#include <vector>
+
+namespace ostraline {
+
+// One row of a model: the splice cell, label/PSP/drilling depth for each of
+// the four bore holes, and the composite depth; cells without their prefix.
+struct ModelRow {
+  std::string splice;
+  std::vector<std::string> holes;  // 12 cells
+  std::string cd;
+};
+
+// A header with "Bore hole A (A)" style hole cells.
+ModelRow DefaultHeader();
+// A row for bore hole A only; the other holes hold starred cells.
+ModelRow RowA(const std::string& label, const std::string& psp, const std::string& drill,
+              const std::string& cd, const std::string& splice = "A");
+// The file text: every cell gets the prefix character, 14 or 18 columns.
+std::string ModelText(const std::vector<ModelRow>& rows, bool longLayout = false);
+// Writes text into a fresh file of that name in the test's temporary folder.
+std::string WriteTempFile(const std::string& name, const std::string& content);
+
+}  // namespace ostraline
