@@ -141,6 +141,54 @@ class FrmMain : public Form {
   // The correlation model.
   void Command1_Click();
 
+  // The target horizon.
+  void Text1_Change();
+  void Text2_Change();
+  void Text3_Change();
+  void Combo1_Change();
+  void Combo1_Click();
+  void Combo2_Change();
+  void Combo2_Click();
+  void Combo5_Change();
+  void Combo5_Click();
+  void BoreHoleChange();
+  void Option1_Click(int index);
+  void Option2_Click(int index);
+  void Option4_Click(int index);
+  void Text1_KeyPress(int& keyAscii);
+  void Text2_KeyDown(int& keyCode, int shift);
+  void Text3_KeyDown(int& keyCode, int shift);
+  void Text3_KeyPress(int& keyAscii);
+  void Text3_MouseDown();
+  void Text4_KeyPress(int& keyAscii);
+  void Text1_GotFocus();
+  void Text2_GotFocus();
+  void Text3_GotFocus();
+  void Slider1_Scroll();
+
+  // Event layers.
+  void Command3_Click();
+  void CombineAndSortEvents();
+  void Label1_Change(int index);
+
+  // The age-depth model, varve counts and the age of the target.
+  void Command4_Click();
+  void Command5_Click();
+  void DisplayAge();
+  void Text4_GotFocus();
+  void Text4_Change();
+
+  // What the columns show.
+  void mnuShowTiePoints_Click();
+  void mnuShowLabCodes_Click();
+  void mnuHorizontal_Click();
+  void mnuHorizontalN_Click(int panel);
+  void mnuHorizontalBH_Click();
+  void mnuDepth_Click();
+  void mnuAge_Click();
+  void mnuSize_Click(int index);
+  void mnuCopyDepth_Click();
+
  private:
   void Layout();
   void BuildMenus();
