@@ -15,6 +15,9 @@ class CheckedInt {
   constexpr CheckedInt() = default;
   template <std::integral T>
   constexpr CheckedInt(T value) : value_(Check(static_cast<long long>(value))) {}
+  // An Integer stored in a Long and back: the store checks.
+  template <class Other>
+  constexpr CheckedInt(CheckedInt<Other> value) : value_(Check(static_cast<long long>(value.Get()))) {}
 
   constexpr operator Rep() const { return value_; }
   constexpr Rep Get() const { return value_; }

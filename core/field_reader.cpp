@@ -62,9 +62,13 @@ FieldReader::Field FieldReader::Next() {
   return field;
 }
 
-std::string FieldReader::ReadText() { return Next().text; }
+std::string FieldReader::ReadText() {
+  return Next().text;
+}
 
-float FieldReader::ReadSingle() { return CSng(Val(Next().text)); }
+float FieldReader::ReadSingle() {
+  return CSng(Val(Next().text));
+}
 
 Variant FieldReader::ReadVariant() {
   Field field = Next();
@@ -77,7 +81,9 @@ Variant FieldReader::ReadVariant() {
 long FieldReader::Line() const {
   long line = 1;
   for (std::size_t i = 0; i < pos_ && i < content_.size(); ++i) {
-    if (content_[i] == '\n') ++line;
+    const bool crAlone =
+        content_[i] == '\r' && (i + 1 >= content_.size() || content_[i + 1] != '\n');
+    if (content_[i] == '\n' || crAlone) ++line;
   }
   return line;
 }

@@ -9,19 +9,31 @@ namespace {
 
 // Folders are separated by a backslash in the names the project's files were
 // made with; names from this system's own dialogs use a slash.
-bool IsFolderSeparator(char c) { return c == '\\' || c == '/'; }
+bool IsFolderSeparator(char c) {
+  return c == '\\' || c == '/';
+}
 
 constexpr std::array<const char*, 12> kMonths = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
                                                  "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
-constexpr std::array<const char*, 12> kMonthTexts = {
-    " Jan. ", " Feb. ", " Mar. ", " Apr. ", " May ", " Jun. ",
-    " Jul. ", " Aug. ", " Sep. ", " Oct. ", " Nov. ", " Dec. "};
+constexpr std::array<const char*, 12> kMonthTexts = {" Jan. ", " Feb. ", " Mar. ", " Apr. ",
+                                                     " May ",  " Jun. ", " Jul. ", " Aug. ",
+                                                     " Sep. ", " Oct. ", " Nov. ", " Dec. "};
+
+// A run of a name that reads as a number equal to its Val. One too large for
+// any number ("1E999999") does not read as one, so it does not count either.
+bool ReadsAsItsVal(const std::string& run) {
+  if (!IsNumeric(run)) return false;
+  try {
+    return CDbl(run) == Val(run);
+  } catch (const RuntimeFailure&) {
+    return false;
+  }
+}
 
 bool EightDigits(const std::string& name, std::string& result) {
   for (long p = 1; p + 7 <= Len(name); ++p) {
     const std::string run = Mid(name, p, 8);
-    if (!IsNumeric(run)) continue;
-    if (CDbl(run) != Val(run) || Len(Trim(run)) != 8) continue;
+    if (!ReadsAsItsVal(run) || Len(Trim(run)) != 8) continue;
     const std::string month = Mid(run, 5, 2);
     for (std::size_t m = 0; m < kMonthTexts.size(); ++m) {
       const std::string digits = (m < 9 ? "0" : "") + std::to_string(m + 1);

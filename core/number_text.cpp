@@ -1,16 +1,18 @@
 #include "core/number_text.h"
 
+#include <algorithm>
 #include <cfloat>
+#include <charconv>
 #include <cmath>
-#include <cstdio>
-#include <cstdlib>
 
 namespace ostraline {
 namespace {
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
 
-// The numeric text at the start of a run of characters, in the form strtod
+// The numeric text at the start of a run of characters, in the form NumberValue
 // reads ("D" exponents become "E"). Blanks have already been taken out.
 std::string LeadingNumber(std::string_view s) {
   std::string out;
@@ -62,11 +64,48 @@ double RadixValue(std::string_view s, int radix) {
   return v;
 }
 
+// Whether a number text beyond the range of a double is too large rather
+// than too small.
+bool BeyondLargest(std::string_view number) {
+  const std::size_t e = std::min(number.find('E'), number.size());
+  const std::string_view mantissa = number.substr(0, e);
+  const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
+  const std::size_t first = mantissa.find_first_of("123456789");
+  if (first == std::string_view::npos) return false;
+  // The decimal exponent of the first significant digit.
+  const long long scale = first < point
+                              ? static_cast<long long>(point - first) - 1
+                              : static_cast<long long>(point) - static_cast<long long>(first);
+  long long exponent = 0;
+  bool negative = false;
+  for (std::size_t i = e + 1; i < number.size(); ++i) {
+    if (number[i] == '-') negative = true;
+    if (IsDigit(number[i])) exponent = std::min(exponent * 10 + (number[i] - '0'), 1000000000LL);
+  }
+  return scale + (negative ? -exponent : exponent) >= 0;
+}
+
+// The value of a text as LeadingNumber gives it. Read without the C locale:
+// the desktop toolkit installs the user's, whose decimal comma would make
+// "1.5" read as 1.
+double NumberValue(std::string_view number) {
+  if (!number.empty() && number.front() == '+') number.remove_prefix(1);
+  double value = 0;
+  const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
+  if (result.ec == std::errc::result_out_of_range) {
+    value = BeyondLargest(number) ? HUGE_VAL : 0.0;
+    if (number.front() == '-') value = -value;
+  }
+  return value;
+}
+
+// printf's %G, written without the C locale for the same reason.
 std::string FormatG(double value, int digits) {
   if (value == 0) return "0";  // also drops the sign of a negative zero
   char buf[64];
-  std::snprintf(buf, sizeof buf, "%.*G", digits, value);
-  return buf;
+  const char* end =
+      std::to_chars(buf, buf + sizeof buf, value, std::chars_format::general, digits).ptr;
+  return UCase(std::string_view(buf, static_cast<std::size_t>(end - buf)));
 }
 
 }  // namespace
@@ -83,7 +122,7 @@ double Val(std::string_view text) {
   }
   const std::string number = LeadingNumber(s);
   if (number.empty()) return 0.0;
-  return std::strtod(number.c_str(), nullptr);
+  return NumberValue(number);
 }
 
 bool IsNumeric(std::string_view text) {
@@ -102,7 +141,7 @@ double CDbl(std::string_view text) {
   std::size_t b = 0;
   while (text[b] == ' ' || text[b] == '\t') ++b;
   const std::string number = LeadingNumber(text.substr(b));
-  const double v = std::strtod(number.c_str(), nullptr);
+  const double v = NumberValue(number);
   if (std::isinf(v)) Fail(FailureKind::Overflow, std::string(text));
   return v;
 }
@@ -118,11 +157,19 @@ float CSng(double value) {
   return static_cast<float>(value);
 }
 
-float CSng(std::string_view text) { return CSng(CDbl(text)); }
+float CSng(std::string_view text) {
+  return CSng(CDbl(text));
+}
 
-std::string Str(float value) { return FormatG(value, 7); }
-std::string Str(double value) { return FormatG(value, 15); }
-std::string Str(long long value) { return std::to_string(value); }
+std::string Str(float value) {
+  return FormatG(value, 7);
+}
+std::string Str(double value) {
+  return FormatG(value, 15);
+}
+std::string Str(long long value) {
+  return std::to_string(value);
+}
 
 std::string PrintedNumber(const std::string& digits) {
   if (!digits.empty() && digits[0] == '-') return digits + " ";
@@ -158,7 +205,9 @@ double Divide(double numerator, double denominator) {
   return numerator / denominator;
 }
 
-std::string Trim(std::string_view text) { return LTrim(RTrim(text)); }
+std::string Trim(std::string_view text) {
+  return LTrim(RTrim(text));
+}
 
 std::string LTrim(std::string_view text) {
   std::size_t b = 0;
@@ -193,10 +242,13 @@ std::string Mid(std::string_view text, long start) {
 std::string Mid(std::string_view text, long start, long length) {
   if (start < 1 || length < 0) Fail(FailureKind::InvalidProcedureCall, "Mid");
   if (static_cast<std::size_t>(start) > text.size()) return {};
-  return std::string(text.substr(static_cast<std::size_t>(start - 1), static_cast<std::size_t>(length)));
+  return std::string(
+      text.substr(static_cast<std::size_t>(start - 1), static_cast<std::size_t>(length)));
 }
 
-long Len(std::string_view text) { return static_cast<long>(text.size()); }
+long Len(std::string_view text) {
+  return static_cast<long>(text.size());
+}
 
 long InStr(std::string_view text, std::string_view what, long start) {
   if (start < 1) Fail(FailureKind::InvalidProcedureCall, "InStr");

@@ -4,10 +4,11 @@
 #include <array>
 #include <cstddef>
 #include <deque>
-#include <type_traits>
 #include <initializer_list>
+#include <type_traits>
 #include <vector>
 
+#include "core/checked_int.h"
 #include "core/failure.h"
 
 namespace ostraline {
@@ -28,7 +29,9 @@ class Table {
     int d = 0;
     for (const Bounds& b : bounds) bounds_[d++] = b;
     allocated_ = true;
-    data_.assign(Capacity(), T{});
+    // Default-constructed, not copied: a model's table holds some 360000 cells.
+    data_.clear();
+    data_.resize(Capacity());
   }
   // Convenience for the common "0..hi" in every dimension.
   template <class... Hi>
@@ -43,7 +46,7 @@ class Table {
       Fail(FailureKind::SubscriptOutOfRange, "preserve of an undimensioned table");
     }
     bounds_[Rank - 1].hi = lastHi;
-    data_.resize(Capacity(), T{});
+    data_.resize(Capacity());
   }
 
   void Erase() {
@@ -58,22 +61,32 @@ class Table {
   template <class... Ix>
   T& operator()(Ix... ix) {
     static_assert(sizeof...(Ix) == Rank, "wrong number of subscripts");
-    return data_[Offset({static_cast<long>(ix)...})];
+    return data_[Offset({Subscript(ix)...})];
   }
   template <class... Ix>
   const T& operator()(Ix... ix) const {
     static_assert(sizeof...(Ix) == Rank, "wrong number of subscripts");
-    return data_[Offset({static_cast<long>(ix)...})];
+    return data_[Offset({Subscript(ix)...})];
   }
 
  private:
+  // A fractional subscript is rounded the language's way (half to even), not cut.
+  template <class I>
+  static long Subscript(I ix) {
+    if constexpr (std::is_floating_point_v<I>) {
+      return CLng(ix);
+    } else {
+      return static_cast<long>(ix);
+    }
+  }
   const Bounds& Dimension(int dim) const {
     if (!allocated_ || dim < 1 || dim > Rank) Fail(FailureKind::SubscriptOutOfRange);
     return bounds_[dim - 1];
   }
   std::size_t Capacity() const {
     std::size_t n = 1;
-    for (const Bounds& b : bounds_) n *= b.hi >= b.lo ? static_cast<std::size_t>(b.hi - b.lo + 1) : 0;
+    for (const Bounds& b : bounds_)
+      n *= b.hi >= b.lo ? static_cast<std::size_t>(b.hi - b.lo + 1) : 0;
     return n;
   }
   // The first subscript varies fastest, so that the last can grow in place.

@@ -1,0 +1,60 @@
+// Any bytes imported as varve counts, after a good correlation model, event
+// list and age-depth model, end in the program's own message or in a record
+// whose lookups answer or fail to their caller; never in a crash or a hang.
+#include <cstddef>
+#include <cstdint>
+
+#include "core/failure.h"
+#include "display/frm_main.h"
+#include "events/age_lookup.h"
+#include "events/event_state.h"
+#include "fuzz/support/age_chain.h"
+
+namespace {
+
+using namespace ostraline;
+
+// Both directions across the record, the varve paths and the way back.
+void LookEverywhere(FrmMain& form) {
+  for (float x : {-9999.0f, 0.0f, 100.0f, 135.0f, 155.0f, 199.5f, 250.0f, 300.0f, 1e6f}) {
+    for (Variant (*lookup)(Single) : {&GetAgeFromCD, &GetAgeFromEFD}) {
+      try {
+        lookup(x);
+      } catch (const RuntimeFailure&) {
+      }
+    }
+  }
+  for (float age : {0.0f, 1000.0f, 1200.0f, 1400.0f, 2222.0f, 3000.0f, 4500.0f, 9e6f}) {
+    try {
+      GetEFDFromAge(age);
+    } catch (const RuntimeFailure&) {
+    }
+  }
+  try {
+    form.Text4.SetFocus();
+    form.Text4.Text = "1200";
+  } catch (const RuntimeFailure&) {
+  }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  static fuzz::AgeChain chain(true);
+  ScriptedPlatform& platform = chain.Restore();
+  platform.QueueFile(fuzz::WriteInputFile(data, size));
+  FrmMain& form = *frmMain;
+  form.Command5.Click();
+
+  const int failures = fuzz::CountMessages(platform, "File format error.");
+  fuzz::Require(failures <= 1, "more than one message of the import");
+  if (form.Command5.Enabled) {
+    fuzz::Require(failures == 1, "refused without a word");
+    return 0;
+  }
+  fuzz::Require(failures == 0 && VarveCountsLoaded && VarveCountRows >= 1, "taken but not loaded");
+  fuzz::Require(VarveTopCD == VarveCounts(0, 1) && VarveBottomCD == VarveCounts(0, VarveCountRows),
+                "limits not those of the record");
+  LookEverywhere(form);
+  return 0;
+}
