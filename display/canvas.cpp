@@ -86,7 +86,10 @@ void PictureBox::Record(DrawOp op) {
   }
   const float pen = static_cast<float>(op.drawWidth) * 15.0f;
   if (!(right + pen >= 0 && left - pen <= w && bottom + pen >= 0 && top - pen <= h)) return;
-  if (op.kind == DrawKind::Box && left <= 0 && top <= 0 && right >= w && bottom >= h) {
+  // A box drawn over the whole scale lands a rounding error short of the edges.
+  constexpr float kEdgeSlack = 1.0f;
+  if (op.kind == DrawKind::Box && left <= kEdgeSlack && top <= kEdgeSlack &&
+      right >= w - kEdgeSlack && bottom >= h - kEdgeSlack) {
     // An opaque box over the whole surface hides all that is under it.
     working_.clear();
     covers_ = true;

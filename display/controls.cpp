@@ -82,7 +82,13 @@ void ComboBox::Clear() {
 
 void ComboBox::UserPick(long listIndex) {
   if (listIndex < 0 || listIndex >= ListCount()) Fail(FailureKind::InvalidProcedureCall, "ListIndex");
-  Text = items_[static_cast<std::size_t>(listIndex)];
+  // A pick from the list runs Click alone; Change is for typing and for writes from code.
+  const std::string& item = items_[static_cast<std::size_t>(listIndex)];
+  if (Text.Get() != item) {
+    Text.SetQuietly(item);
+    if (ScreenObserver* screen = CurrentScreenObserver())
+      screen->ControlPropertyChanged(*this, "Text");
+  }
   if (Click) Click();
 }
 

@@ -3,6 +3,7 @@
 #include "core/project_state.h"
 #include "display/display_state.h"
 #include "display/form.h"
+#include "events/batch_state.h"
 #include "events/event_state.h"
 
 namespace ostraline {
@@ -12,6 +13,7 @@ void ResetProgram() {
   coreState = CoreState{};
   displayState = DisplayState{};
   eventState = EventState{};
+  batchState = BatchState{};
 }
 
 void FreshProgram::SetUp() {
@@ -20,6 +22,8 @@ void FreshProgram::SetUp() {
 }
 
 void FreshProgram::TearDown() {
+  // A test's own screen observer is gone by now; the forms must not call it.
+  SetScreenObserver(nullptr);
   ResetProgram();
   SetPlatform(nullptr);
 }
