@@ -1,0 +1,40 @@
+#include "desktop/event_forwarding.h"
+
+#include <QCoreApplication>
+#include <cstdio>
+#include <exception>
+
+#include "display/form.h"
+
+namespace ostraline {
+namespace {
+
+// Events nest: a handler may open a pop-up menu whose click is an event too.
+int g_depth = 0;
+
+bool AnyFormLoaded() {
+  for (const FormSlot* slot : FormSlot::All()) {
+    if (slot->IsLoaded()) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+void ForwardEvent(const std::function<void()>& event) {
+  ++g_depth;
+  try {
+    event();
+  } catch (const std::exception& failure) {
+    std::fprintf(stderr, "ostraline: a handler failed: %s\n", failure.what());
+  }
+  --g_depth;
+  if (g_depth > 0) return;
+  FormSlot::CollectUnloaded();
+  if (!AnyFormLoaded() && QCoreApplication::instance() != nullptr) {
+    QMetaObject::invokeMethod(QCoreApplication::instance(), &QCoreApplication::quit,
+                              Qt::QueuedConnection);
+  }
+}
+
+}  // namespace ostraline

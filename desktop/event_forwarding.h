@@ -1,0 +1,13 @@
+#pragma once
+// Every user event reaches the control model through here.
+#include <functional>
+
+namespace ostraline {
+
+// Runs one user event on the model. A failure that no handler caught is
+// reported on standard error and the program goes on. After the outermost
+// event, the forms unloaded meanwhile are freed, and the program ends when no
+// form is left loaded.
+void ForwardEvent(const std::function<void()>& event);
+
+}  // namespace ostraline

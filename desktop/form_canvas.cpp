@@ -1,0 +1,144 @@
+#include "desktop/form_canvas.h"
+
+#include <QFontMetricsF>
+#include <QMouseEvent>
+#include <QPainter>
+#include <algorithm>
+#include <string>
+
+#include "desktop/conversions.h"
+#include "desktop/event_forwarding.h"
+#include "desktop/fonts.h"
+#include "desktop/key_codes.h"
+#include "desktop/raster_cache.h"
+#include "display/canvas.h"
+#include "display/form.h"
+
+namespace ostraline {
+namespace {
+
+// Controls inside a frame are placed from the frame's corner.
+QPoint ContainerOffset(const Control& control) {
+  QPoint offset;
+  for (const Control* frame = control.Container(); frame != nullptr; frame = frame->Container()) {
+    offset += QPoint(ToPixels(frame->Left.Get()), ToPixels(frame->Top.Get()));
+  }
+  return offset;
+}
+
+void PaintLineControl(QPainter& painter, const LineControl& line, QPoint offset) {
+  const QPointF from = QPointF(offset) + QPointF(ToPixels(line.X1.Get()), ToPixels(line.Y1.Get()));
+  const QPointF to = QPointF(offset) + QPointF(ToPixels(line.X2.Get()), ToPixels(line.Y2.Get()));
+  const bool slanted = from.x() != to.x() && from.y() != to.y();
+  painter.setRenderHint(QPainter::Antialiasing, slanted);
+  painter.setPen(QPen(ToQColor(line.BorderColor.Get()), line.BorderWidth.Get()));
+  // Through the pixel centres, so that level and plumb lines are one pixel sharp.
+  painter.drawLine(from + QPointF(0.5, 0.5), to + QPointF(0.5, 0.5));
+}
+
+void PaintShape(QPainter& painter, const Shape& shape, QPoint offset) {
+  QRectF box = PixelRect(shape.Left.Get(), shape.Top.Get(), shape.Width.Get(), shape.Height.Get())
+                   .translated(offset)
+                   .adjusted(0.5, 0.5, -0.5, -0.5);
+  const int kind = shape.ShapeKind.Get();
+  if (kind == 1 || kind == 3 || kind == 5) {
+    // Squares and circles stand in the middle of their box.
+    const qreal side = std::min(box.width(), box.height());
+    box = QRectF(box.center() - QPointF(side / 2, side / 2), QSizeF(side, side));
+  }
+  painter.setRenderHint(QPainter::Antialiasing, kind >= 2);
+  painter.setPen(ToQColor(shape.BorderColor.Get()));
+  painter.setBrush(shape.FillStyle.Get() == 0 ? QBrush(ToQColor(shape.FillColor.Get()))
+                                              : Qt::NoBrush);
+  if (kind == 2 || kind == 3) {
+    painter.drawEllipse(box);
+  } else if (kind == 4 || kind == 5) {
+    painter.drawRoundedRect(box, box.width() / 8, box.height() / 8);
+  } else {
+    painter.drawRect(box);
+  }
+}
+
+void PaintImageControl(QPainter& painter, const ImageControl& image, QPoint offset) {
+  const QImage pixels = DecodedPicture(image.PictureFile.Get());
+  if (pixels.isNull()) return;
+  painter.setRenderHint(QPainter::SmoothPixmapTransform, true);
+  painter.drawImage(
+      PixelRect(image.Left.Get(), image.Top.Get(), image.Width.Get(), image.Height.Get())
+          .translated(offset),
+      pixels);
+}
+
+}  // namespace
+
+FormCanvas::FormCanvas(Form& form, QWidget* parent) : QWidget(parent), form_(&form) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setMouseTracking(true);
+}
+
+void FormCanvas::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  if (form_ == nullptr) {
+    painter.fillRect(rect(), palette().window());
+    return;
+  }
+  painter.fillRect(rect(), ToQColor(form_->BackColor.Get()));
+
+  const QFont font = ProgramFont(8, *this);
+  painter.setFont(font);
+  painter.setPen(Qt::black);
+  const qreal advance = TextMetrics::LineAdvance(8) / kTwipsPerPixel;
+  const qreal ascent = QFontMetricsF(font, this).ascent();
+  qreal top = 0;
+  for (const std::string& line : form_->PrintedLines()) {
+    painter.drawText(QPointF(0, qRound(top + ascent)), ToQString(line));
+    top += advance;
+  }
+
+  for (const Control* control : form_->Controls()) {
+    if (!control->Visible.Get()) continue;
+    painter.save();
+    switch (control->Kind()) {
+      case ControlKind::Line:
+        PaintLineControl(painter, static_cast<const LineControl&>(*control),
+                         ContainerOffset(*control));
+        break;
+      case ControlKind::Shape:
+        PaintShape(painter, static_cast<const Shape&>(*control), ContainerOffset(*control));
+        break;
+      case ControlKind::Image:
+        PaintImageControl(painter, static_cast<const ImageControl&>(*control),
+                          ContainerOffset(*control));
+        break;
+      default:
+        break;
+    }
+    painter.restore();
+  }
+}
+
+void FormCanvas::mousePressEvent(QMouseEvent* event) {
+  if (form_ == nullptr) return;
+  const int button = ButtonsOf(event->button());
+  const int shift = ShiftStateOf(event->modifiers());
+  const QPointF at = event->position();
+  ForwardEvent([&] { form_->Form_MouseDown(button, shift, ToTwips(at.x()), ToTwips(at.y())); });
+}
+
+void FormCanvas::mouseMoveEvent(QMouseEvent* event) {
+  if (form_ == nullptr) return;
+  const int buttons = ButtonsOf(event->buttons());
+  const int shift = ShiftStateOf(event->modifiers());
+  const QPointF at = event->position();
+  ForwardEvent([&] { form_->Form_MouseMove(buttons, shift, ToTwips(at.x()), ToTwips(at.y())); });
+}
+
+void FormCanvas::mouseReleaseEvent(QMouseEvent* event) {
+  if (form_ == nullptr || event->button() != Qt::LeftButton ||
+      !rect().contains(event->position().toPoint())) {
+    return;
+  }
+  ForwardEvent([this] { form_->Form_Click(); });
+}
+
+}  // namespace ostraline

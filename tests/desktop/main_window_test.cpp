@@ -1,0 +1,100 @@
+// The main form in its window: caption, placement, menus, painting, and the
+// import of a correlation model through the dialog.
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QImage>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTest>
+
+#include "display/frm_main.h"
+#include "shell_fixture.h"
+#include "support/model_files.h"
+
+namespace ostraline {
+namespace {
+
+class MainWindow : public ShellTest {
+ protected:
+  void SetUp() override {
+    ShellTest::SetUp();
+    frmMain->Show();
+    window = qobject_cast<QMainWindow*>(WindowOf(*frmMain));
+    ASSERT_NE(window, nullptr);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
+  }
+
+  QMainWindow* window = nullptr;
+};
+
+TEST_F(MainWindow, ShowsTheCaptionControlsAndMenuBar) {
+  EXPECT_TRUE(window->isVisible());
+  EXPECT_EQ(window->windowTitle(), QStringLiteral("Ostraline 7.7.4"));
+
+  // Command1 sits at 120, 260 in Frame4, 2175 by 345 twips: 15 twips to the pixel.
+  auto* command1 = WidgetOf<QPushButton>(frmMain->Command1);
+  ASSERT_NE(command1, nullptr);
+  EXPECT_EQ(command1->text(), QStringLiteral("Correlation model"));
+  EXPECT_EQ(command1->geometry(), QRect(8, 17, 145, 23));
+  auto* frame4 = WidgetOf<QWidget>(frmMain->Frame4);
+  ASSERT_NE(frame4, nullptr);
+  EXPECT_EQ(command1->parentWidget(), frame4);
+  EXPECT_EQ(frame4->accessibleName(), QStringLiteral(" Import "));
+  EXPECT_EQ(frame4->geometry(), QRect(24, 8, 161, 149));
+  // BoreHole(1): 3120, 240, 975 by 8775 twips.
+  EXPECT_EQ(WidgetOf<QWidget>(frmMain->BoreHole(1))->geometry(), QRect(208, 16, 65, 585));
+  // The slider (7590 to 7845) overlaps the scale strip (from 7680) and stays on top of it.
+  EXPECT_EQ(window->centralWidget()->childAt(518, 300), WidgetOf<QWidget>(frmMain->Slider1));
+
+  QStringList shown;
+  for (const QAction* title : window->menuBar()->actions()) {
+    if (title->isVisible()) shown << title->text();
+  }
+  EXPECT_EQ(shown, (QStringList{"Range", "Font", "Tool", "Precision", "Info"}));
+}
+
+TEST_F(MainWindow, PicturesShowTheirOperationsAndTheFormItsLines) {
+  PictureBox& column = frmMain->BoreHole(1);
+  column.ScaleLeft = 0;
+  column.ScaleTop = 0;
+  column.ScaleWidth = 7.6f;
+  column.ScaleHeight = 500;
+  column.Cls();
+  column.LineBF(0, 100, 7.6f, 200, RGB(255, 0, 0));
+  column.CommitImage();
+  const QImage shown = WidgetOf<QWidget>(column)->grab().toImage();
+  // The inner 8715 twips hold 500 units: 100 to 200 is rows 116 to 232 below the border.
+  EXPECT_EQ(shown.pixelColor(30, 2 + 174), QColor(255, 0, 0));
+  EXPECT_EQ(shown.pixelColor(30, 2 + 50),
+            QColor(RedOf(column.BackColor.Get()), GreenOf(column.BackColor.Get()),
+                   BlueOf(column.BackColor.Get())));
+  EXPECT_NE(shown.pixelColor(30, 2 + 110), QColor(255, 0, 0));
+
+  // Line1 runs from 3120 to 2880 (pixels 208 to 192) at the middle of the columns.
+  frmMain->Print("Hello");
+  const QImage form = window->centralWidget()->grab().toImage();
+  EXPECT_EQ(form.pixelColor(200, qRound(frmMain->Line1.Y1.Get() / 15)), QColor(0, 0, 0));
+  int dark = 0;
+  for (int y = 0; y < 14; ++y) {
+    for (int x = 0; x < 20; ++x) dark += form.pixelColor(x, y).lightness() < 100 ? 1 : 0;
+  }
+  EXPECT_GT(dark, 5);
+}
+
+TEST_F(MainWindow, ImportsTheModelChosenInTheDialog) {
+  dialogs.script.QueueFile(WriteTempFile("core_model_20110305.csv", ModelText(FourHoleModel())));
+  auto* command1 = WidgetOf<QPushButton>(frmMain->Command1);
+  QTest::mouseClick(command1, Qt::LeftButton);
+
+  ASSERT_EQ(dialogs.script.dialogs.size(), 1u);
+  EXPECT_EQ(dialogs.script.dialogs[0].filter, "DataFile(*.csv)|*.csv");
+  for (const MessageRecord& message : dialogs.script.messages) ADD_FAILURE() << message.text;
+  EXPECT_TRUE(window->windowTitle().contains(QStringLiteral("core_model_20110305")));
+  EXPECT_FALSE(frmMain->Command1.Enabled.Get());
+  EXPECT_FALSE(command1->isEnabled());
+}
+
+}  // namespace
+}  // namespace ostraline
