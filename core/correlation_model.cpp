@@ -1,6 +1,7 @@
 // The correlation model's import: the file, the model depths, and the form
 // opened for work at its first target.
 #include "core/correlation_model.h"
+#include "core/import_pattern.h"
 
 #include "core/depth_conversions.h"
 #include "core/field_reader.h"
@@ -8,6 +9,7 @@
 #include "core/number_text.h"
 #include "core/project_state.h"
 #include "display/frm_main.h"
+#include "display/frm_version.h"
 #include "display/platform.h"
 
 namespace ostraline {
@@ -174,22 +176,17 @@ void SweepModelDepths(FrmMain& form) {
 void FrmMain::Command1_Click() {
   bool fileOpen = false;
   try {
-    CommonDialog1.CancelError = true;
-    CommonDialog1.Filter = "DataFile(*.csv)|*.csv";
-    CommonDialog1.ShowOpen();
-    FieldReader file = FieldReader::Open(CommonDialog1.FileName);
-    fileOpen = true;
+    FieldReader file = OpenDataFile(*this, fileOpen);
     ModelVersion = VersionDate(CommonDialog1.FileName);
+    frmVersion->Label2(1).Caption = ModelVersion;
     Caption = Caption + "   [" + FileStem(CommonDialog1.FileName) + "]";
     ReadModelFile(*this, file);
     SweepSections(*this);
     SweepModelDepths(*this);
     OpenFormForWork(*this);
   } catch (const RuntimeFailure&) {
-    ProgressBar1.Value = 0;
-    ProgressBar1.Visible = false;
-    Screen.SetMousePointer(0);
-    if (fileOpen) MsgBox("File format error.", MsgButtons::Ok, "Error", MsgIcon::Exclamation);
+    ResetProgress(*this);
+    if (fileOpen) ShowFormatError();
   }
 }
 

@@ -1,0 +1,24 @@
+#include "core/core_bottom.h"
+
+#include "core/project_state.h"
+#include "display/frm_main.h"
+#include "display/platform.h"
+#include "events/event_state.h"
+
+namespace ostraline {
+
+bool BelowEveryCoreBottom(double depth) {
+  for (int hole = 1; hole <= 4; ++hole) {
+    if (!(depth > CoreBottom(hole))) return false;
+  }
+  return true;
+}
+
+void RefuseBelowCoreBottom(FrmMain& form) {
+  MsgBox("Requested horizon is below core bottom.", MsgButtons::Ok, "Error", MsgIcon::Exclamation);
+  form.Text2.Text = SavedText2;
+  if (EventListLoaded) form.Text3.Text = SavedText3;
+  if (AgeModelLoaded) form.Text4.Text = SavedText4;
+}
+
+}  // namespace ostraline

@@ -1,0 +1,21 @@
+#pragma once
+// Ages from depths and depths from ages, each with the two errors of that
+// age, from the control points of the age-depth model. Between two control
+// points the age runs linearly in EFD, or by the counted varves where the
+// varve record covers both points.
+#include "core/checked_int.h"
+#include "core/variant.h"
+
+namespace ostraline {
+
+// Each writes AgeErrorPlus and AgeErrorMinus and, unless DriveIndex is 0, the
+// caption of frmMain.Label9. The two age lookups also leave their pair of rows
+// in AgeRowLower and AgeRowUpper; GetEFDFromAge keeps its pair to itself.
+// The sentinels 9999 and -9999 pass through the age lookups. A cell that is
+// no number, or a pair of rows with equal values, fails to the caller.
+Variant GetAgeFromCD(Single cd);
+Variant GetAgeFromEFD(Single efd);
+// The EFD of an age, unrounded; on the varve path it lands on a marker.
+Variant GetEFDFromAge(Single age);
+
+}  // namespace ostraline

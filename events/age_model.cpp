@@ -1,0 +1,223 @@
+// The age-depth model's import: the control points of age, checked against
+// the correlation model in use and placed on the composite and EFD scales.
+#include <array>
+#include <string>
+
+#include "core/depth_conversions.h"
+#include "core/import_pattern.h"
+#include "core/field_reader.h"
+#include "core/file_names.h"
+#include "core/hole_lookup.h"
+#include "core/number_text.h"
+#include "core/project_state.h"
+#include "display/core_columns.h"
+#include "display/frm_main.h"
+#include "display/frm_version.h"
+#include "display/platform.h"
+#include "events/copy_to_duo.h"
+#include "events/event_free_depth.h"
+#include "events/event_state.h"
+
+namespace ostraline {
+namespace {
+
+// One record by its columns: the ninth field, the class, goes to column 0.
+using AgeRecord = std::array<std::string, 12>;
+
+// Where the import stands, for the message of its failure path.
+struct ImportProgress {
+  bool fileOpen = false;
+  std::string holeAtHand;
+};
+
+AgeRecord ReadAgeRecord(FieldReader& file, ImportProgress& progress) {
+  AgeRecord record;
+  for (int field = 1; field <= 11; ++field) {
+    const int column = field <= 8 ? field : field == 9 ? 0 : field - 1;
+    record[column] = file.ReadText();
+    if (field == 2) progress.holeAtHand = record[column];
+  }
+  return record;
+}
+
+// The tail of the depth's header cell names the version of the correlation
+// model the file was made for; a tail without a year is "not specified". A
+// tail that is no number at all fails here.
+std::string VersionOfHeader(const std::string& cell) {
+  std::string s;
+  if (Right(cell, 1) == ")") {
+    s = Trim(Right(Left(cell, Len(cell) - 1), 12));
+    if (Left(s, 1) == "(") s = Trim(Mid(s, 2));
+  } else {
+    s = Trim(Right(cell, 12));
+  }
+  const std::string year = Right(s, 4);
+  if (CDbl(year) != Val(year)) s = "not specified";
+  return s;
+}
+
+// Declining takes the event layers out of the depth scale for the rest of the run.
+void TakeEventLayersOut(FrmMain& form) {
+  form.Command4.Enabled = true;
+  EventCount = -9999;
+  MergedEventCount = -9999;
+}
+
+bool ProceedDespiteVersion(FrmMain& form) {
+  const std::string version = VersionOfHeader(AgeModel(5, 0));
+  if (Trim(ModelVersion) == version) return true;
+  const MsgAnswer answer = MsgBox(
+      "Version dates are inconsistent between correlation models for plotting (" + ModelVersion +
+          ") and age control points (" + version + "). Do you proceed anyway?",
+      MsgButtons::YesNo, "WARNING!!");
+  if (answer != MsgAnswer::No) return true;
+  ResetProgress(form);
+  TakeEventLayersOut(form);
+  return false;
+}
+
+void StoreRecord(Table<std::string, 2>& table, long row, const AgeRecord& record) {
+  table.ReDimPreserve(row);
+  for (int column = 0; column <= 11; ++column) table(column, row) = record[column];
+}
+
+void StoreRecord(Table<Variant, 2>& table, long row, const AgeRecord& record) {
+  table.ReDimPreserve(row);
+  for (int column = 0; column <= 10; ++column) table(column, row) = record[column];
+}
+
+// Rows of class C and V are control points; R rows are only plotted; any
+// other class is dropped without a word.
+void ReadControlPoints(FieldReader& file, ImportProgress& progress) {
+  Long points = 0;
+  Long references = 0;
+  while (!file.Eof()) {
+    AgeRecord record = ReadAgeRecord(file, progress);
+    std::string& kind = record[0];
+    const std::string first = Left(kind, 1);
+    if (first == "c" || first == "v" || first == "r") kind = UCase(first) + Mid(kind, 2);
+    const std::string letter = Left(kind, 1);
+    if (letter == "C" || letter == "V") {
+      ++points;
+      StoreRecord(AgeModel, points, record);
+    } else if (letter == "R") {
+      ++references;
+      StoreRecord(AgeReferenceRows, references, record);
+    }
+  }
+  AgeModelCount = points;
+  AgeReferenceCount = references;
+}
+
+// The master's bore holes 1 to 4, then the Duo's as 5 to 8, with a later
+// match winning, so that a name in both sets counts as the Duo's. The Duo's
+// names join this search with its parallel model.
+int HoleOfName(const std::string& name) {
+  int hole = 9999;
+  for (int j = 1; j <= 4; ++j) {
+    if (name == HoleName(j)) hole = j;
+  }
+  return hole;
+}
+
+// Any hole beyond the master's four is looked up in the Duo's model; while no
+// parallel model has been imported its sections are not there to be found.
+Variant CompositeOfRow(int hole, const std::string& section, Single psp) {
+  if (hole > 4)
+    Fail(FailureKind::SubscriptOutOfRange, "no parallel model for bore hole " + Str(hole));
+  return CompositeFromTrinity(hole, SectionOrdinalByName(hole, section), psp);
+}
+
+// Each control point on the composite scale and in EFD. A row given by its
+// composite depth alone ("---") keeps the depth of the file.
+void PlaceControlPoints(ImportProgress& progress) {
+  for (long i = 1; i <= AgeModelCount; ++i) {
+    progress.holeAtHand = AgeModel(2, i);
+    const int hole = HoleOfName(AgeModel(2, i));
+    const std::string& depth = AgeModel(5, i);
+    if (hole == 9999 && Str(Val(depth)) != depth) {
+      Fail(FailureKind::TypeMismatch, "bore hole " + AgeModel(2, i));
+    }
+    if (AgeModel(2, i) != "---" && AgeModel(3, i) != "---" && AgeModel(4, i) != "---") {
+      const Variant composite = CompositeOfRow(hole, AgeModel(3, i), CSng(Val(AgeModel(4, i))));
+      if (composite.ToDouble() != 9999) AgeModel(5, i) = Str(composite.ToSingle());
+    }
+    AgeModel(11, i) = CDToEFD(CSng(Val(AgeModel(5, i)))).ToText();
+  }
+}
+
+// The four characters around the first decimal mark of a header cell; a mark
+// at its first or second character fails.
+std::string LevelOfHeader(const std::string& cell) {
+  for (long p = 1; p <= Len(cell); ++p) {
+    const std::string c = Mid(cell, p, 1);
+    if (c == "." || c == ",") return Mid(cell, p - 2, 4) + " %";
+  }
+  return {};
+}
+
+void EnableAgeControls(FrmMain& form) {
+  const bool typeIn = form.Option1(0).Value;
+  for (Control* control :
+       std::initializer_list<Control*>{&form.Label7, &form.Label8, &form.Label9, &form.Text4}) {
+    control->Enabled = typeIn;
+  }
+}
+
+void ReportFailure(FrmMain& form, const ImportProgress& progress) {
+  ResetProgress(form);
+  if (!progress.fileOpen) return;
+  // With the Duo closed every failure reads as a bore hole of the Duo.
+  if (DuoOpen) {
+    ShowFormatError();
+  } else {
+    MsgBox("Bore hole name '" + progress.holeAtHand +
+               "' has not been defined. Import parallel correlation model to Ostraline Duo.",
+           MsgButtons::Ok, "Error", MsgIcon::Exclamation);
+  }
+  TakeEventLayersOut(form);
+}
+
+}  // namespace
+
+void FrmMain::Command4_Click() {
+  ImportProgress progress;
+  try {
+    FieldReader file = OpenDataFile(*this, progress.fileOpen);
+    AgeModelVersion = VersionDate(CommonDialog1.FileName);
+    frmVersion->Label2(4).Caption = AgeModelVersion;
+
+    AgeModel.Dim({{0, 11}, {0, 0}});
+    AgeReferenceRows.Dim({{0, 11}, {0, 0}});
+    Screen.SetMousePointer(11);
+    ProgressBar1.Max = 200;
+    ProgressBar1.Visible = true;
+    StoreRecord(AgeModel, 0, ReadAgeRecord(file, progress));
+    if (!ProceedDespiteVersion(*this)) return;
+    ReadControlPoints(file, progress);
+
+    EnableAgeControls(*this);
+    PlaceControlPoints(progress);
+    ErrorLevelPlus = LevelOfHeader(AgeModel(6, 0));
+    ErrorLevelMinus = LevelOfHeader(AgeModel(8, 0));
+
+    AgeModelLoaded = true;
+    Screen.SetMousePointer(0);
+    DisplayAge();
+    DrawLamina();
+    mnuAge.Enabled = true;
+    mnuDepth.Enabled = true;
+    CopyAgeModelToDuo();
+
+    Command4.Enabled = false;
+    // The varve counts are the next and last file of the chain.
+    Command5.Enabled = true;
+    if (Command5.Visible) Command5.SetFocus();
+    ProgressBar1.Visible = false;
+    ProgressBar1.Value = 0;
+  } catch (const RuntimeFailure&) {
+    ReportFailure(*this, progress);
+  }
+}
+
+}  // namespace ostraline

@@ -1,0 +1,108 @@
+// The varve record: composite depths of markers with a running count of
+// annual laminae, the last file of the import chain.
+#include "events/varve_counts.h"
+
+#include <algorithm>
+
+#include "core/field_reader.h"
+#include "core/import_pattern.h"
+#include "core/file_names.h"
+#include "core/project_state.h"
+#include "display/core_columns.h"
+#include "display/frm_main.h"
+#include "display/frm_version.h"
+#include "display/platform.h"
+#include "events/copy_to_duo.h"
+#include "events/event_free_depth.h"
+#include "events/event_state.h"
+
+namespace ostraline {
+namespace {
+
+// Row 0 stays zero, so the first marker's count is measured from 0.
+void ReadVarveRows(FrmMain& form, FieldReader& file) {
+  VarveCounts.Dim({{0, 1}, {0, 0}});
+  Long rows = 0;
+  while (!file.Eof()) {
+    form.ProgressBar1.Value = static_cast<float>(std::min<long>(rows, 2000));
+    ++rows;
+    VarveCounts.ReDimPreserve(rows);
+    VarveCounts(0, rows) = file.ReadSingle();
+    VarveCounts(1, rows) = file.ReadSingle();
+  }
+  VarveCountRows = rows;
+}
+
+// A record of a header only has no first marker: reading it fails the import.
+void SetVarveLimits() {
+  VarveTopCD = VarveCounts(0, 1);
+  VarveBottomCD = VarveCounts(0, VarveCountRows);
+  VarveTopEFD = CDToEFD(VarveTopCD).ToSingle();
+  VarveBottomEFD = CDToEFD(VarveBottomCD).ToSingle();
+  VarveCountsLoaded = true;
+}
+
+}  // namespace
+
+VarveSums VarveSumsAt(Single depth, Single lowerDepth, Single upperDepth) {
+  VarveSums sums;
+  for (long i = 1;; ++i) {
+    const Single interval = VarveCounts(1, i) - VarveCounts(1, i - 1);
+    const Single marker = VarveCounts(0, i);
+    if (lowerDepth < marker && marker < depth) {
+      sums.below += interval;
+    } else if (depth < marker && marker < upperDepth) {
+      sums.above += interval;
+    }
+    if (upperDepth < marker) break;
+  }
+  return sums;
+}
+
+Single VarveOffset(Single lowerDepth, Single upperDepth, Single before, Single after) {
+  long i = 1;
+  while (!(lowerDepth <= VarveCounts(0, i))) ++i;
+  const long anchor = i - 1;
+  i = anchor + 1;
+  while (!(upperDepth <= VarveCounts(0, i))) ++i;
+  const long end = i - 1;
+  Single target = 0;
+  if (static_cast<Single>(before + after) != 0) {
+    target = (VarveCounts(1, end) - VarveCounts(1, anchor)) * before / (before + after);
+  }
+  Single count = 0;
+  for (i = anchor + 1;; ++i) {
+    count += VarveCounts(1, i) - VarveCounts(1, i - 1);
+    if (count >= target) break;
+  }
+  return VarveCounts(0, i - 1) - VarveCounts(0, anchor);
+}
+
+void FrmMain::Command5_Click() {
+  bool fileOpen = false;
+  try {
+    FieldReader file = OpenDataFile(*this, fileOpen);
+    Screen.SetMousePointer(11);
+    ProgressBar1.Max = 2000;
+    ProgressBar1.Value = 0;
+    ProgressBar1.Visible = true;
+    file.ReadText();
+    file.ReadText();
+    VarveVersion = VersionDate(CommonDialog1.FileName);
+    frmVersion->Label2(5).Caption = VarveVersion;
+    ReadVarveRows(*this, file);
+    SetVarveLimits();
+
+    DrawLamina();
+    DisplayAge();
+    CopyAgeModelToDuo();
+    Command5.Enabled = false;
+    if (Text2.Enabled) Text2.SetFocus();
+    ResetProgress(*this);
+  } catch (const RuntimeFailure&) {
+    ResetProgress(*this);
+    if (fileOpen) ShowFormatError();
+  }
+}
+
+}  // namespace ostraline

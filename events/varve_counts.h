@@ -1,0 +1,24 @@
+#pragma once
+// The counted varves between two control points of the age-depth model.
+#include "core/checked_int.h"
+
+namespace ostraline {
+
+struct VarveSums {
+  Single below = 0;
+  Single above = 0;
+};
+
+// The varves counted between the lower control point and the depth, and
+// between the depth and the upper control point, all composite depths. An
+// interval counts whole, on the side of its deeper marker; a marker exactly at
+// the depth or at either control point counts for neither side.
+VarveSums VarveSumsAt(Single depth, Single lowerDepth, Single upperDepth);
+
+// The way back from an age: the depth below the marker at or above the lower
+// control point at which the count reaches the share before / (before + after)
+// of the varves between the two points. Quantised to markers, one short of
+// the marker at which the count passes that share.
+Single VarveOffset(Single lowerDepth, Single upperDepth, Single before, Single after);
+
+}  // namespace ostraline
