@@ -1,0 +1,146 @@
+// The repaint of the core view on a model of the largest size a file may
+// hold, with a few hundred event layers and an age model, centred deep in
+// the core, as every change of the target horizon repaints it.
+#include <benchmark/benchmark.h>
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+#include "core/number_text.h"
+#include "core/project_state.h"
+#include "display/core_columns.h"
+#include "display/display_state.h"
+#include "display/frm_main.h"
+#include "display/scripted_platform.h"
+#include "events/event_free_depth.h"
+#include "events/event_state.h"
+
+namespace ostraline {
+namespace {
+
+constexpr int kRows = 5000;
+constexpr int kSectionRows = 50;
+constexpr int kLayers = 300;
+constexpr int kAgePoints = 120;
+
+// Four bore holes cut alike into sections of fifty rows, a tie every fifth
+// row, a pin now and then, and the splice passing from hole to hole.
+std::string ModelFile() {
+  std::string text = "'Splice";
+  for (char hole : std::string("ABCD")) {
+    text += std::string(",'Bore hole ") + hole + " (" + hole + "),'PSP,'Drilling depth";
+  }
+  text += ",'Composite depth\r\n";
+  for (int r = 1; r <= kRows; ++r) {
+    const int section = (r - 1) / kSectionRows + 1;
+    const int inSection = (r - 1) % kSectionRows;
+    const char* splice[] = {"A", "B", "C", "D", "Gap"};
+    text += std::string("'") + splice[section % 5];
+    for (char hole : std::string("ABCD")) {
+      const std::string label = inSection == 0 ? std::string(1, hole) + Str(section) + "-top"
+                                : inSection == kSectionRows - 1
+                                    ? std::string(1, hole) + Str(section) + "-bottom"
+                                : r % 97 == 0 ? "Pin" + Str(r)
+                                              : "L" + Str(r);
+      text += ",'" + label + ",'" + Str(inSection * 2) + ",'" + Str(r * 2);
+    }
+    text += ",'" + (inSection % 5 == 0 ? Str(r * 2) : std::string()) + "\r\n";
+  }
+  return text;
+}
+
+void ImportModel(ScriptedPlatform& platform) {
+  const auto path = std::filesystem::temp_directory_path() / "ostraline-bench-model_20110305.csv";
+  std::ofstream(path, std::ios::binary) << ModelFile();
+  platform.QueueFile(path.string());
+  frmMain->Command1_Click();
+}
+
+// Thin layers every 30 cm, merged as the import leaves them: ordinary
+// layers, tephras and voids in turn, on all four bore holes.
+void LoadEventLayers() {
+  EventListLoaded = true;
+  EventCount = kLayers;
+  MergedEventCount = kLayers;
+  EventList.Dim({{0, 9}, {0, kLayers}});
+  EventTop.Dim({{0, 3}, {0, kLayers}});
+  EventBottom.Dim({{0, 3}, {0, kLayers}});
+  const char* descriptions[] = {"Sand", "Tephra T", "Void"};
+  for (int i = 1; i <= kLayers; ++i) {
+    const Single top = static_cast<Single>(i * 30 + 3);
+    const Single bottom = top + 2;
+    EventTop(1, i) = top;
+    EventBottom(1, i) = bottom;
+    EventList(1, i) = std::string(1, static_cast<char>('A' + i % 4));
+    EventList(5, i) = std::string(descriptions[i % 3]) + Str(i);
+    EventList(6, i) = Str(top);
+    EventList(7, i) = Str(bottom);
+  }
+  for (int i = 1; i <= kLayers; ++i) EventList(8, i) = CDToEFD(Val(EventList(6, i))).ToText();
+}
+
+// Control points every 80 cm, ten years to the centimetre, with a stretch of
+// varve-counted rows and a few reference rows.
+void LoadAgeModel() {
+  AgeModelLoaded = true;
+  AgeModelCount = kAgePoints;
+  AgeModel.Dim({{0, 11}, {0, kAgePoints}});
+  for (int j = 1; j <= kAgePoints; ++j) {
+    const double depth = j * 80.0;
+    AgeModel(0, j) = j % 20 < 4 ? "V" : "C" + Str(j % 5 + 1);
+    AgeModel(1, j) = "Lab-" + Str(j);
+    AgeModel(2, j) = j % 3 == 0 ? "---" : std::string(1, static_cast<char>('A' + j % 4));
+    AgeModel(5, j) = Str(depth);
+    AgeModel(6, j) = "20";
+    AgeModel(7, j) = Str(depth * 10);
+    AgeModel(8, j) = "20";
+    AgeModel(9, j) = "yr";
+    AgeModel(11, j) = CDToEFD(static_cast<Single>(depth)).ToText();
+  }
+  AgeReferenceCount = 10;
+  AgeReferenceRows.Dim({{0, 11}, {0, 10}});
+  for (int j = 1; j <= 10; ++j) {
+    AgeReferenceRows(0, j) = "R";
+    AgeReferenceRows(1, j) = "Ref-" + Str(j);
+    AgeReferenceRows(2, j) = "A";
+    AgeReferenceRows(5, j) = Str(j * 900);
+  }
+}
+
+class CoreView : public benchmark::Fixture {
+ public:
+  void SetUp(const benchmark::State&) override {
+    SetPlatform(&platform_);
+    ImportModel(platform_);
+    LoadEventLayers();
+    LoadAgeModel();
+    frmMain->mnuShowTiePoints.Checked = true;
+    frmMain->mnuShowLabCodes.Checked = true;
+    for (int i = 0; i <= 4; ++i) frmMain->BoreHole(i).ScaleTop = 8000;
+  }
+  void TearDown(const benchmark::State&) override {
+    FormSlot::ResetAll();
+    coreState = CoreState{};
+    displayState = DisplayState{};
+    eventState = EventState{};
+    SetPlatform(nullptr);
+  }
+
+ private:
+  ScriptedPlatform platform_;
+};
+
+BENCHMARK_F(CoreView, DrawLaminaDepthStrip)(benchmark::State& state) {
+  for (auto _ : state) DrawLamina();
+  state.counters["base ops"] = static_cast<double>(frmMain->BoreHole(1).BaseOps().size());
+}
+
+BENCHMARK_F(CoreView, DrawLaminaAgeStrip)(benchmark::State& state) {
+  frmMain->mnuDepth.Checked = false;
+  frmMain->mnuAge.Checked = true;
+  for (auto _ : state) DrawLamina();
+}
+
+}  // namespace
+}  // namespace ostraline

@@ -1,0 +1,93 @@
+// The menu entries that decide what the core view shows. Each flips its
+// setting and then redraws what depends on it.
+#include "core/project_state.h"
+#include "display/core_columns.h"
+#include "display/display_state.h"
+#include "display/frm_main.h"
+#include "display/platform.h"
+#include "display/scale_strip.h"
+#include "display/target_line.h"
+
+namespace ostraline {
+namespace {
+
+void RedrawColumns() {
+  if (LastRow > 0) DrawLamina();
+}
+
+void Toggle(Menu& entry) {
+  entry.Checked = !entry.Checked;
+}
+
+// The pointer's line on the columns and on every panel is one setting.
+void ToggleHorizontalLine(FrmMain& form) {
+  const bool shown = !form.mnuHorizontal.Checked;
+  form.mnuHorizontal.Checked = shown;
+  for (int p = 0; p <= 4; ++p) form.mnuHorizontalN(p).Checked = shown;
+  ClearTargetLine();
+}
+
+void ShowStripScale(FrmMain& form, Menu& chosen, Menu& other) {
+  chosen.Checked = true;
+  other.Checked = false;
+  form.BoreHole(5).Cls();
+  DrawBH5();
+  form.BoreHole(5).CommitImage();
+}
+
+}  // namespace
+
+void FrmMain::mnuShowTiePoints_Click() {
+  Toggle(mnuShowTiePoints);
+  RedrawColumns();
+}
+
+void FrmMain::mnuShowLabCodes_Click() {
+  Toggle(mnuShowLabCodes);
+  RedrawColumns();
+}
+
+void FrmMain::mnuHorizontal_Click() {
+  ToggleHorizontalLine(*this);
+}
+
+void FrmMain::mnuHorizontalN_Click(int /*panel*/) {
+  ToggleHorizontalLine(*this);
+}
+
+// The fixed horizon is part of the committed picture, not of the overlay.
+void FrmMain::mnuHorizontalBH_Click() {
+  Toggle(mnuHorizontalBH);
+  RedrawColumns();
+}
+
+void FrmMain::mnuDepth_Click() {
+  ShowStripScale(*this, mnuDepth, mnuAge);
+}
+
+void FrmMain::mnuAge_Click() {
+  ShowStripScale(*this, mnuAge, mnuDepth);
+}
+
+// Size 1 ("---") means no labels at all; the column captions then take size 2.
+void FrmMain::mnuSize_Click(int index) {
+  LabelFontSize = index;
+  mnuSize.ForEach([](Menu& entry) { entry.Checked = false; });
+  mnuSize(index).Checked = true;
+  RedrawColumns();
+  for (int i = 0; i <= 4; ++i) Label1(i).FontSize = static_cast<float>(index + 1);
+}
+
+// The strip goes to the clipboard on white, then back to its own colour.
+void FrmMain::mnuCopyDepth_Click() {
+  PictureBox& strip = BoreHole(5);
+  const long ownColour = strip.BackColor;
+  strip.BackColor = kWhite;
+  DrawBH5();
+  CurrentPlatform().ClipboardClear();
+  CurrentPlatform().ClipboardSetPicture(strip.Image());
+  strip.BackColor = ownColour;
+  DrawBH5();
+}
+
+}  // namespace ostraline

@@ -1,0 +1,75 @@
+#include "display/core_columns.h"
+
+#include "display/core_columns_rows.h"
+#include "display/core_columns_steps.h"
+#include "display/display_state.h"
+#include "display/event_view.h"
+#include "display/frm_main.h"
+#include "display/scale_strip.h"
+#include "events/event_state.h"
+
+namespace ostraline {
+namespace {
+
+void ClearColumns(FrmMain& form) {
+  for (int i = 0; i <= 5; ++i) {
+    PictureBox& column = form.BoreHole(i);
+    column.Cls();
+    column.FontSize = static_cast<float>(LabelFontSize);
+    const float left = column.ScaleLeft;
+    const float top = column.ScaleTop;
+    column.LineBF(left, top, left + column.ScaleWidth, top + column.ScaleHeight, column.BackColor);
+  }
+}
+
+void CommitColumns(FrmMain& form) {
+  for (int i = 0; i <= 5; ++i) form.BoreHole(i).CommitImage();
+}
+
+// The panels follow the columns' depth window. A loaded panel draws its
+// record here once proxy records can be imported; until then every panel
+// shows its background.
+void ScalePanels(FrmMain& form) {
+  for (int i = 0; i <= 4; ++i) {
+    PictureBox& panel = form.Picture1(i);
+    panel.ScaleTop = form.BoreHole(0).ScaleTop.Get();
+    panel.ScaleHeight = form.BoreHole(0).ScaleHeight.Get();
+    const float left = panel.ScaleLeft;
+    const float top = panel.ScaleTop;
+    panel.LineBF(left, top, left + panel.ScaleWidth, top + panel.ScaleHeight, panel.BackColor);
+  }
+}
+
+void SaveTexts(const FrmMain& form) {
+  SavedDepthText = form.Text2.Text.Get();
+  SavedEFDText = form.Text3.Text.Get();
+  SavedAgeText = form.Text4.Text.Get();
+}
+
+}  // namespace
+
+void DrawLamina() {
+  FrmMain& form = *frmMain;
+  const ModelRows rows;
+  ClearColumns(form);
+  PaintAboveCore(form, rows);
+  PaintCompositeColumn(form, rows);
+  DrawBH5();
+  PaintSplicedParts(form, rows);
+  PaintBelowCore(form);
+  PaintSectionGaps(form, rows);
+  if (MergedEventCount > 0) DrawEvents();
+  CrossSectionGaps(form, rows);
+  ChooseAgeDepthColumn();
+  PaintVarveStretches(form);
+  for (int i = 0; i <= 4; ++i) form.BoreHole(i).FillStyle = 0;
+  PlotAgeControlPoints(form);
+  PlotReferenceRows(form);
+  DrawFixedHorizon(form);
+  DrawRowMarks(form, rows);
+  CommitColumns(form);
+  ScalePanels(form);
+  SaveTexts(form);
+}
+
+}  // namespace ostraline

@@ -1,0 +1,101 @@
+// The rows of the model on the columns: a line and a label for each row of
+// each bore hole, green dots for pins, the tie points on the composite
+// column, and the fixed horizon.
+#include <string>
+
+#include "core/number_text.h"
+#include "core/project_state.h"
+#include "display/core_columns_paint.h"
+#include "display/core_columns_rows.h"
+#include "display/core_columns_steps.h"
+#include "display/display_state.h"
+#include "display/frm_main.h"
+
+namespace ostraline {
+namespace {
+
+constexpr long kPinGreen = RGB(100, 255, 100);
+constexpr long kSectionEndBlue = RGB(0, 0, 255);
+constexpr long kSpliceMagenta = RGB(255, 0, 255);
+constexpr long kTieRed = RGB(255, 0, 0);
+
+// Blue at the ends of a section, magenta where the splice cell names no
+// more than a bore hole, red where it names something longer.
+long MarkColour(const ModelRows& rows, int hole, long r) {
+  if (rows.OpensSection(hole, r) || rows.ClosesSection(hole, r)) return kSectionEndBlue;
+  if (Len(rows.Kind(r)) < 2) return kSpliceMagenta;
+  return kTieRed;
+}
+
+void PrintAt(PictureBox& column, float x, double y, const std::string& text) {
+  column.CurrentX = x;
+  column.CurrentY = AsSingle(y);
+  column.Print(text);
+}
+
+void MarkBoreHoleRow(FrmMain& form, const ModelRows& rows, int hole, long r, double offset) {
+  const Single depth = rows.Depth(hole, r);
+  if (depth == 9999) return;
+  PictureBox& column = form.BoreHole(hole);
+  const double labelY = depth - offset;
+  if (!(depth > column.ScaleTop && column.ScaleTop + column.ScaleHeight > labelY)) return;
+  const std::string& label = rows.Label(hole, r);
+  const std::string text = label + " (" + ModelCell(0, hole, 1, r) + " cm)";
+  const bool labelled = LabelFontSize > 1;
+  if (rows.IsPinRow(hole, r)) {
+    column.FillColor = kPinGreen;
+    column.Circle(0.1f, depth, 0.2f, kPinGreen);
+    if (labelled) {
+      column.ForeColor = kLabelGrey;
+      PrintAt(column, 0.5f, depth - offset / 2, text);
+      column.ForeColor = kBlack;
+    }
+    return;
+  }
+  column.Line(0, depth, kColumnWidth, depth, MarkColour(rows, hole, r));
+  if (labelled) PrintAt(column, 0.2f, labelY, text);
+}
+
+// Tie points on the composite column, with their names hanging below their
+// lines, right-aligned.
+void MarkTieRow(FrmMain& form, const ModelRows& rows, long r, double offset) {
+  const Single tie = rows.Tie(r);
+  if (tie == 9999) return;
+  PictureBox& composite = form.BoreHole(0);
+  if (!(tie > composite.ScaleTop && composite.ScaleTop + composite.ScaleHeight > tie - offset)) {
+    return;
+  }
+  if (!form.mnuShowTiePoints.Checked) return;
+  const std::string& name = rows.Kind(r);
+  const long length = Len(name);
+  if (length != 1) composite.Line(0, tie, kColumnWidth, tie, kTieRed);
+  if (LabelFontSize > 1 && length >= 2) {
+    composite.ForeColor = kLabelGrey;
+    const double x =
+        composite.ScaleWidth * 1.02 - static_cast<double>(length) * LabelFontSize / 11.0;
+    PrintAt(composite, AsSingle(x), tie + LabelOffset(form, 400, 5), name);
+    composite.ForeColor = kBlack;
+  }
+}
+
+}  // namespace
+
+void DrawFixedHorizon(FrmMain& form) {
+  if (!form.mnuHorizontalBH.Checked) return;
+  for (int i = 0; i <= 4; ++i) {
+    PictureBox& column = form.BoreHole(i);
+    const float y = AsSingle(column.ScaleTop + static_cast<double>(ViewSpan) / 2);
+    column.Line(0, y, kColumnWidth, y, kHorizonGreen);
+  }
+}
+
+void DrawRowMarks(FrmMain& form, const ModelRows& rows) {
+  const double holeOffset = LabelOffset(form, 60, 6);
+  const double tieOffset = LabelOffset(form, 60, 5);
+  for (long r = 1; r <= rows.LastRow(); ++r) {
+    for (int hole = 1; hole <= 4; ++hole) MarkBoreHoleRow(form, rows, hole, r, holeOffset);
+    MarkTieRow(form, rows, r, tieOffset);
+  }
+}
+
+}  // namespace ostraline

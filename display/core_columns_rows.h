@@ -1,0 +1,62 @@
+#pragma once
+// The rows of the correlation model as the core view reads them, on the
+// selected vertical scale. The cells that the drawing walks row by row are
+// read once per repaint, as numbers and marks.
+#include <string>
+#include <vector>
+
+#include "core/checked_int.h"
+
+namespace ostraline {
+
+class ModelRows {
+ public:
+  ModelRows();
+
+  long LastRow() const { return lastRow_; }
+  // ModelCell(DepthAxis, hole, 2, row) as a Single.
+  Single Depth(int hole, long row) const { return holeRows_[Slot(hole, row)].depth; }
+  // The depth cell as text, for the comparison between sections.
+  const std::string& DepthText(int hole, long row) const;
+  // ModelCell(DepthAxis, hole, 1, row) as a number: the PSP on the composite scale.
+  double Psp(int hole, long row) const;
+  // ModelCell(0, hole, 0, row): the lamina label, and what it marks.
+  const std::string& Label(int hole, long row) const;
+  bool OpensSection(int hole, long row) const;
+  bool ClosesSection(int hole, long row) const { return holeRows_[Slot(hole, row)].closes; }
+  bool IsPinRow(int hole, long row) const;
+  // The first row after this one that opens a section, or the last row.
+  long NextSectionStart(int hole, long row) const;
+
+  // TieCell(DepthAxis, row) as a Single: the row's depth on the composite column.
+  Single Tie(long row) const { return tieRows_[static_cast<std::size_t>(row)].depth; }
+  // TieCell(0, row): the bore hole that carries the composite from this row
+  // on, or a gap.
+  const std::string& Kind(long row) const;
+  bool KindIsGap(long row) const { return tieRows_[static_cast<std::size_t>(row)].gap; }
+  // Whether Kind(row) equals HoleName(hole), and whether it equals any of them.
+  bool KindNames(int hole, long row) const;
+  bool KindNamesAnyHole(long row) const;
+
+ private:
+  // What every step reads of every row; the rest is read where a row is in
+  // view or next to a tie.
+  struct HoleRow {
+    Single depth = 0;
+    bool closes = false;
+  };
+  struct TieRow {
+    Single depth = 0;
+    bool gap = false;
+  };
+  std::size_t Slot(int hole, long row) const {
+    return static_cast<std::size_t>(row) * 4 + static_cast<std::size_t>(hole - 1);
+  }
+
+  int axis_;
+  long lastRow_;
+  std::vector<HoleRow> holeRows_;  // rows 0..LastRow of bore holes 1..4
+  std::vector<TieRow> tieRows_;    // rows 0..LastRow
+};
+
+}  // namespace ostraline

@@ -1,0 +1,166 @@
+#include "display/scale_strip.h"
+
+#include "core/number_text.h"
+#include "core/project_state.h"
+#include "display/core_columns_paint.h"
+#include "display/display_state.h"
+#include "display/frm_main.h"
+#include "display/platform.h"
+#include "events/age_lookup.h"
+#include "events/event_free_depth.h"
+#include "events/event_state.h"
+
+namespace ostraline {
+namespace {
+
+constexpr int kBusyPointer = 11;
+constexpr long kVarveBand = RGB(255, 150, 150);
+// The axis of both scales, and the right end of every tick.
+constexpr float kAxis = 9.0f;
+// An age scale whose ticks of one kind would outnumber this many is beyond
+// what the strip can show; it is left out rather than computed for minutes.
+constexpr long kMostAgeTicks = 100000;
+
+float ScaleBottom(const PictureBox& strip) {
+  return strip.ScaleTop + strip.ScaleHeight;
+}
+
+void Tick(PictureBox& strip, float fromX, float y) {
+  strip.Line(fromX, y, kAxis, y, kBlack);
+}
+
+// A tick with its number to the left, a little above it.
+template <class Number>
+void LabelledTick(PictureBox& strip, float fromX, float y, float textX, Number number) {
+  Tick(strip, fromX, y);
+  strip.CurrentX = textX;
+  strip.CurrentY = AsSingle(y - ViewSpan * 0.01);
+  strip.Print(number);
+}
+
+void DrawDepthTicks(PictureBox& strip, int from, int to, float fromX, float textX) {
+  for (int depth = from; depth <= to; depth += 100) {
+    LabelledTick(strip, fromX, static_cast<float>(depth), textX, depth);
+  }
+}
+
+// The depths are printed straight on the strip's scale, so they read in the
+// selected scale's units, and they end at 10000.
+void DrawDepthScale(PictureBox& strip) {
+  strip.Line(kAxis, 0, kAxis, ScaleBottom(strip), kBlack);
+  if (LabelFontSize > 1) {
+    LabelledTick(strip, 7, 0, 4.8f, 0);
+    DrawDepthTicks(strip, 100, 900, 7, 2.8f);
+    DrawDepthTicks(strip, 1000, 10000, 7, 1.8f);
+    if (ViewSpan < 2000) {
+      LabelledTick(strip, 8, 50, 3.8f, 50);
+      DrawDepthTicks(strip, 150, 950, 8, 2.8f);
+      DrawDepthTicks(strip, 1050, 9950, 8, 1.8f);
+    }
+  }
+  for (int depth = 10; depth <= 9990; depth += 10) Tick(strip, 8.5f, static_cast<float>(depth));
+}
+
+// The composite depth of an age, through its event free depth.
+float AgePosition(double age) {
+  return EFDToCD(GetEFDFromAge(AsSingle(age)).ToSingle()).ToSingle();
+}
+
+bool TooManyTicks(long from, long to, long step) {
+  return (to - from) / step >= kMostAgeTicks;
+}
+
+struct LabelledAges {
+  long from;
+  long to;
+  float textX;
+  double divisor;
+  // The loop is left out when both ends of the view lie beyond these.
+  double skipTop;
+  double skipEnd;
+};
+
+constexpr LabelledAges kLabelledAges[] = {
+    {1000, 9000, 2.8f, 1, 9100, 9100},
+    {10000, 99000, 1.8f, 1, 9900, 99100},
+    {100000, 999000, 3.8f, 1000, 99900, 999100},
+};
+
+void DrawLabelledAges(PictureBox& strip, double ageTop, double ageEnd) {
+  for (const LabelledAges& ages : kLabelledAges) {
+    if (ageTop >= ages.skipTop && ageEnd >= ages.skipEnd) continue;
+    for (I = ages.from; I <= ages.to; I += 1000) {
+      if (!(ageTop < I && I <= ageEnd)) continue;
+      const float y = AgePosition(I);
+      if (ages.divisor == 1) {
+        LabelledTick(strip, 8, y, ages.textX, static_cast<int>(I));
+      } else {
+        LabelledTick(strip, 8, y, ages.textX, I / ages.divisor);
+      }
+    }
+  }
+}
+
+// Unlabelled ticks at every step of age over the view, where the age lies
+// below the top of the core.
+void DrawAgeTicks(PictureBox& strip, double from, double to, long step, float fromX) {
+  const long first = CLng(from);
+  const long last = CLng(to);
+  if (TooManyTicks(first, last, step)) return;
+  for (I = first; I <= last; I += step) {
+    const float y = AgePosition(I);
+    if (y > 0) Tick(strip, fromX, y);
+  }
+}
+
+void DrawAgeScale(PictureBox& strip, double ageTop, double ageEnd) {
+  const float zero = AgePosition(0);
+  strip.Line(kAxis, zero, kAxis, ScaleBottom(strip), kBlack);
+  if (LabelFontSize < 2) return;
+  if (ageTop < 100) LabelledTick(strip, 8, zero, 6.2f, 0);
+  DrawLabelledAges(strip, ageTop, ageEnd);
+  DrawAgeTicks(strip, Round(ageTop / 1000, 0) * 1000 - 500, Round(ageEnd / 1000, 0) * 1000, 1000,
+               8.1f);
+  DrawAgeTicks(strip, Round(ageTop / 100, 0) * 100, Round(ageEnd / 100, 0) * 100, 100, 8.55f);
+}
+
+// The fixed horizon's mark: a green line and dot at the middle of the strip.
+void MarkFixedHorizon(PictureBox& strip) {
+  const float middle = strip.ScaleTop + strip.ScaleHeight / 2;
+  strip.Line(7.5f, middle, 9.5f, middle, kHorizonGreen);
+  strip.FillStyle = 0;
+  strip.FillColor = kHorizonGreen;
+  strip.Circle(7.25f, middle, 0.25f, kHorizonGreen);
+}
+
+}  // namespace
+
+void DrawBH5() {
+  FrmMain& form = *frmMain;
+  PictureBox& strip = form.BoreHole(5);
+  const PictureBox& composite = form.BoreHole(0);
+  // Every tick of the age scale is a lookup in the age-depth model.
+  if (form.mnuAge.Checked) Screen.SetMousePointer(kBusyPointer);
+  strip.ScaleHeight = AsSingle(Round(ViewSpan * 1.007, 0) + 0.14);
+  strip.ScaleTop = composite.ScaleTop - (strip.ScaleHeight - composite.ScaleHeight) / 2;
+  strip.FontSize = static_cast<float>(LabelFontSize);
+  strip.LineBF(strip.ScaleLeft, strip.ScaleTop, strip.ScaleLeft + strip.ScaleWidth,
+               ScaleBottom(strip), strip.BackColor);
+  const bool ageScale = !form.mnuDepth.Checked;
+  double ageTop = 0;
+  double ageEnd = 0;
+  if (ageScale) {
+    ageTop = GetAgeFromCD(composite.ScaleTop).ToDouble();
+    ageEnd = GetAgeFromCD(composite.ScaleTop + composite.ScaleHeight).ToDouble();
+  }
+  if (VarveCountsLoaded) strip.LineBF(8.2f, VarveTopCD, kAxis, VarveBottomCD, kVarveBand);
+  if (form.mnuHorizontalBH.Checked) MarkFixedHorizon(strip);
+  if (ageScale) {
+    DrawAgeScale(strip, ageTop, ageEnd);
+  } else {
+    DrawDepthScale(strip);
+  }
+  Screen.SetMousePointer(0);
+}
+
+}  // namespace ostraline

@@ -1,0 +1,14 @@
+#pragma once
+// The pointer's overlay on the core view: an orange line across the columns
+// at the depth under the pointer, erased with Cls so that the committed
+// picture stays untouched.
+#include "core/checked_int.h"
+
+namespace ostraline {
+
+// Paints the overlay at depth y on the selected scale.
+void TargetLine(Single y);
+// Erases the overlay of the main form.
+void ClearTargetLine();
+
+}  // namespace ostraline
