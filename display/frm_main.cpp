@@ -1,5 +1,7 @@
 #include "display/frm_main.h"
 
+#include <vector>
+
 namespace ostraline {
 namespace {
 
@@ -39,7 +41,7 @@ void FrmMain::Layout() {
     imports[i]->SetContainer(&Frame4);
     imports[i]->Place(120, 260 + 390.0f * static_cast<float>(i), 2175, 345);
   }
-  ProgressBar1.Place(360, 10000, 2415, 240);
+  ProgressBar1.Place(360, 10020, 2415, 240);
   ProgressBar1.Visible.SetQuietly(false);
 
   SetCaption(Frame5, " Holy trinity ");
@@ -72,6 +74,8 @@ void FrmMain::Layout() {
   Label1(6).Place(120, 1110, 2175, 255);
   // The PSP box stands on the form itself, so that the pointer line meets it.
   Text1.Place(1440, 3720, 1095, 285);
+  // The boxes' design texts are those Form_Load writes, so that its writes run nothing.
+  Text1.Text.SetQuietly("0");
   SetCaption(Label1(7), "cm");
   Label1(7).Place(2580, 4590, 300, 255);
   Label1(8).Place(600, 4860, 800, 255);
@@ -84,6 +88,7 @@ void FrmMain::Layout() {
   SetCaption(Label2, "Composite depth");
   Label2.Place(600, 4320, 2175, 255);
   Text2.Place(1440, 4560, 1095, 285);
+  Text2.Text.SetQuietly("---");
   SetCaption(Label3, "Event free depth (EFD)");
   Label3.Place(600, 4920, 2175, 255);
   Text3.Place(1440, 5160, 1095, 285);
@@ -91,17 +96,18 @@ void FrmMain::Layout() {
   Label7.Place(600, 5760, 2175, 255);
   Text4.Place(1440, 6000, 1095, 285);
   SetCaption(Label8, "Error:  --- ");
-  Label8.Place(600, 6360, 2175, 255);
+  Label8.Place(600, 6300, 2175, 390);  // two lines: the errors with their levels
   SetCaption(Label9, "(Interpolated by EFD)");
-  Label9.Place(600, 6600, 2175, 255);
-  Label4.Place(600, 10260, 2175, 255);
-  Label10.Place(600, 10500, 2175, 255);
+  Label9.Place(600, 6660, 2175, 210);
+  Label4.Place(600, 11640, 2175, 255);
+  Label10.Place(600, 11880, 2175, 255);
 
   for (int i = 0; i <= 2; ++i) Option1.Add(i);
   SetCaption(Option1(0), "Type-in value");
-  Option1(0).Place(360, 6930, 1140, 255);
+  // One row each: side by side, neither caption fits its half.
+  Option1(0).Place(360, 6870, 2415, 225);
   SetCaption(Option1(2), "Convert from data file");
-  Option1(2).Place(1500, 6930, 1275, 255);
+  Option1(2).Place(360, 7090, 2415, 225);
 
   Frame2.Place(360, 7320, 2415, 2655);
   SetCaption(Label11, "Vertical scale for drawing");
@@ -133,7 +139,7 @@ void FrmMain::Layout() {
   Option4(1).Place(120, 600, 1935, 255);
 
   SetCaption(Frame1, "Legacy");
-  Frame1.Place(360, 10020, 2415, 1215);
+  Frame1.Place(360, 10320, 2415, 1215);  // seen when the window is enlarged
   SetCaption(Option1(1), "Type-in depths");
   Option1(1).SetContainer(&Frame1);
   Option1(1).Place(120, 240, 2175, 255);
@@ -192,8 +198,17 @@ void FrmMain::Layout() {
   }
   SetCaption(Command7, "Photo");
   Command7.Place(9720, 9960, 1575, 345);
-  Image1.Place(360, 9990, 480, 480);
+  Image1.Place(2805, 9600, 285, 285);
   Width.SetQuietly(panelLefts[0] + 120);
+
+  // What the imports open stays shut until then: at start only the model's
+  // import takes input.
+  std::vector<Control*> closed = {&Label11, &Combo1,   &Text1,      &Text2,  &Text3,
+                                  &Text4,   &Label2,   &Label3,     &Label7, &Label8,
+                                  &Label9,  &Command2, &BoreHole(5)};
+  for (int i = 0; i <= 2; ++i) closed.push_back(&Option1(i));
+  for (int i = 5; i <= 11; ++i) closed.push_back(&Label1(i));
+  for (Control* control : closed) control->Enabled.SetQuietly(false);
 }
 
 void FrmMain::BuildMenus() {
@@ -249,6 +264,7 @@ void FrmMain::BuildMenus() {
   SetCaption(mnuPhoto, "Photos to front");
   mnuTool.Add(mnuPhoto);
   SetCaption(mnuOLDuo, "Open Ostraline Duo");
+  mnuOLDuo.Enabled.SetQuietly(false);
   mnuTool.Add(mnuOLDuo);
   SetCaption(mnuAlign, "Aign forms");
   mnuTool.Add(mnuAlign);
@@ -256,6 +272,7 @@ void FrmMain::BuildMenus() {
   mnuTool.Add(mnuLFDuo);
 
   SetCaption(mnuPrecision, "Precision");
+  mnuPrecision.Enabled.SetQuietly(false);
   AddMenu(mnuPrecision);
   SetCaption(mnuDepthDigits, "Depth");
   mnuPrecision.Add(mnuDepthDigits);

@@ -178,6 +178,9 @@ class FrmMain : public Form {
   void Text4_GotFocus();
   void Text4_Change();
 
+  // Batch conversion of a data file.
+  void Command2_Click();
+
   // What the columns show.
   void mnuShowTiePoints_Click();
   void mnuShowLabCodes_Click();

@@ -47,3 +47,31 @@ std::string WriteTempFile(const std::string& name, const std::string& content) {
 }
 
 }  // namespace ostraline
+
+namespace ostraline {
+
+std::vector<ModelRow> FourHoleModel() {
+  struct Line {
+    const char* label;
+    const char* psp;
+    int drill;
+    const char* cd;
+  };
+  const Line lines[] = {{"01-top", "0", 100, "200"},  {"L1", "50", 150, "250"},
+                        {"L2", "100", 200, "300"},    {"01-bottom", "150", 250, ""},
+                        {"02-top", "0", 260, "350"},  {"L3", "100", 360, "450"},
+                        {"02-bottom", "150", 410, ""}};
+  std::vector<ModelRow> rows{DefaultHeader()};
+  for (const Line& line : lines) {
+    ModelRow row{"A", {}, line.cd};
+    for (char hole : std::string("ABCD")) {
+      const std::string label = line.label[0] == 'L' ? std::string(line.label) + hole
+                                                     : std::string(1, hole) + "-" + line.label;
+      row.holes.insert(row.holes.end(), {label, line.psp, std::to_string(line.drill + (hole - 'A') * 7)});
+    }
+    rows.push_back(row);
+  }
+  return rows;
+}
+
+}  // namespace ostraline

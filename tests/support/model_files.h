@@ -24,3 +24,11 @@ std::string ModelText(const std::vector<ModelRow>& rows, bool longLayout = false
 std::string WriteTempFile(const std::string& name, const std::string& content);
 
 }  // namespace ostraline
+
+namespace ostraline {
+
+// Four bore holes cut alike: two sections each, ties at composite depth 200,
+// 250, 300 in the first and 350, 450 in the second; every core ends at 500.
+std::vector<ModelRow> FourHoleModel();
+
+}  // namespace ostraline

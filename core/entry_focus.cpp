@@ -1,0 +1,71 @@
+// The user's entries: each resets the synchronisation guard, records which
+// box leads, and saves the texts to go back to.
+#include "core/entry_focus.h"
+
+#include "core/number_text.h"
+#include "core/project_state.h"
+#include "display/frm_main.h"
+#include "events/event_state.h"
+
+namespace ostraline {
+
+void PointLine2At(FrmMain& form, const TextBox& box) {
+  const float y = box.Top + 120;
+  form.Line2(0).Y2 = y;
+  form.Line2(1).Y1 = y;
+  form.Line2(1).Y2 = y;
+}
+
+void SaveTargetTexts(FrmMain& form, bool alwaysEfd) {
+  SavedText2 = form.Text2.Text;
+  if (alwaysEfd || EventListLoaded) SavedText3 = form.Text3.Text;
+  if (AgeModelLoaded) SavedText4 = form.Text4.Text;
+}
+
+void FrmMain::Text1_GotFocus() {
+  DriveIndex = 1;
+  PointLine2At(*this, Text1);
+}
+
+void FrmMain::Text2_GotFocus() {
+  SaveTargetTexts(*this, false);
+  DriveIndex = 2;
+  PointLine2At(*this, Text2);
+}
+
+void FrmMain::Text3_GotFocus() {
+  SaveTargetTexts(*this, true);
+  DriveIndex = 3;
+  PointLine2At(*this, Text3);
+}
+
+void FrmMain::Text1_KeyPress(int&) { ActionCount = 0; }
+
+void FrmMain::Text2_KeyDown(int&, int) {
+  ActionCount = 0;
+  DrivenBy = 2;
+}
+
+void FrmMain::Text3_KeyDown(int&, int) { EfdEntryActive = true; }
+
+void FrmMain::Text3_KeyPress(int&) {
+  ActionCount = 0;
+  EfdEntryActive = true;
+}
+
+void FrmMain::Text3_MouseDown() { EfdEntryActive = true; }
+
+void FrmMain::Text4_KeyPress(int&) { ActionCount = 0; }
+
+void FrmMain::Slider1_Scroll() {
+  DrivenBy = 2;
+  ActionCount = 0;
+  Text2.Text = Str(static_cast<long long>(Slider1.Value.Get()));
+  // Moving the slider switches to the composite scale.
+  Option1(1).Value = true;
+  Option2(1).Value = true;
+  DrivenBy = 0;
+  DriveIndex = 6;
+}
+
+}  // namespace ostraline

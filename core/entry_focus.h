@@ -1,0 +1,14 @@
+#pragma once
+// Which entry has the user's attention, and the pointer line to it.
+
+namespace ostraline {
+
+class FrmMain;
+class TextBox;
+
+// The small pointer line Line2 runs from the middle of the columns to the box.
+void PointLine2At(FrmMain& form, const TextBox& box);
+// The texts the boxes go back to when a horizon is refused.
+void SaveTargetTexts(FrmMain& form, bool alwaysEfd);
+
+}  // namespace ostraline
