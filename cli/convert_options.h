@@ -1,0 +1,35 @@
+#pragma once
+// The command line of ostraline-convert.
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace ostraline::cli {
+
+struct ConvertOptions {
+  std::string model;
+  std::string events;
+  std::string ages;
+  std::string varves;
+  bool oneToOne = false;
+  int depthDigits = 2;
+  int ageDigits = 0;
+  // Scale codes as the form indexes them: 1 trinity, 2 composite, 4 EFD, 8 age.
+  std::optional<int> from;
+  std::optional<int> to;  // sum of codes
+  bool ignoreVersionMismatch = false;
+  std::string input;
+  std::string output;
+};
+
+struct ParsedCommandLine {
+  ConvertOptions options;
+  bool help = false;
+  // What is wrong with the command line; empty when nothing is.
+  std::string error;
+};
+
+ParsedCommandLine ParseCommandLine(const std::vector<std::string>& args);
+const char* HelpText();
+
+}  // namespace ostraline::cli

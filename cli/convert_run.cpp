@@ -1,0 +1,178 @@
+#include "cli/convert_run.h"
+
+#include <fstream>
+#include <functional>
+#include <string>
+
+#include "core/project_state.h"
+#include "display/frm_conversion.h"
+#include "display/frm_main.h"
+#include "display/scripted_platform.h"
+#include "events/batch_state.h"
+
+namespace ostraline::cli {
+namespace {
+
+const char* ScaleName(int code) {
+  switch (code) {
+    case 1:
+      return "trinity";
+    case 2:
+      return "composite";
+    case 4:
+      return "efd";
+    default:
+      return "age";
+  }
+}
+
+// The scripted dialogs, with the one question a conversion can meet, the
+// version warning of the age-depth model, answered from the command line.
+class ConsolePlatform : public ScriptedPlatform {
+ public:
+  explicit ConsolePlatform(bool answerYes) : answerYes_(answerYes) {}
+  MsgAnswer MessageBox(const std::string& text, const std::string& title, MsgIcon icon,
+                       MsgButtons buttons) override {
+    if (buttons == MsgButtons::YesNo) QueueAnswer(answerYes_ ? MsgAnswer::Yes : MsgAnswer::No);
+    return ScriptedPlatform::MessageBox(text, title, icon, buttons);
+  }
+
+ private:
+  bool answerYes_;
+};
+
+class Conversion {
+ public:
+  Conversion(const ConvertOptions& options, std::ostream& messages)
+      : options_(options), messages_(messages), platform_(options.ignoreVersionMismatch) {
+    SetPlatform(&platform_);
+    platform_.onMessage = [this](const MessageRecord& message) { Tell(message); };
+  }
+  ~Conversion() { SetPlatform(nullptr); }
+
+  int Run() {
+    for (const std::string* file :
+         {&options_.model, &options_.events, &options_.ages, &options_.varves, &options_.input}) {
+      if (!file->empty() && !std::ifstream(*file, std::ios::binary)) {
+        return Failed("cannot open " + *file);
+      }
+    }
+    FrmMain& main = *frmMain;
+    // Chosen before the model is read, so that its depths are made by it.
+    if (options_.oneToOne) main.Option4(1).Value = true;
+    if (!Import("correlation model", options_.model, main.Command1,
+                [&] { main.Command1_Click(); })) {
+      return 1;
+    }
+    // The precision menus open with the model; the ages of the control
+    // points take their EFD at the import of the age-depth model.
+    ChooseDigits(main.mnuDepPrec, options_.depthDigits, DepthPrecision);
+    ChooseDigits(main.mnuAgePrec, options_.ageDigits, AgePrecision);
+    if (!options_.events.empty() && !Import("list of event layers", options_.events, main.Command3,
+                                            [&] { main.Command3_Click(); })) {
+      return 1;
+    }
+    if (!options_.ages.empty() &&
+        !Import("age-depth model", options_.ages, main.Command4, [&] { main.Command4_Click(); })) {
+      return 1;
+    }
+    if (!options_.varves.empty() &&
+        !Import("varve counts", options_.varves, main.Command5, [&] { main.Command5_Click(); })) {
+      return 1;
+    }
+
+    Step("data file " + options_.input);
+    platform_.QueueFile(options_.input);
+    main.Command2_Click();
+    if (errorShown_ || !frmConversion.IsLoaded()) return Failed("not read");
+    FrmConversion& form = *frmConversion;
+    if (!ChooseScales(form)) return 1;
+
+    Step("output " + options_.output);
+    platform_.QueueFile(options_.output);
+    form.Command1_Click();
+    if (errorShown_ || frmConversion.IsLoaded()) return Failed("not written");
+    return 0;
+  }
+
+ private:
+  void Step(std::string what) {
+    step_ = std::move(what);
+    errorShown_ = false;
+  }
+
+  void Tell(const MessageRecord& message) {
+    messages_ << "ostraline-convert: " << step_ << ": " << message.title << ": " << message.text;
+    if (message.buttons == MsgButtons::YesNo) {
+      messages_ << (message.answer == MsgAnswer::Yes ? " [Yes]"
+                                                     : " [No: see --ignore-version-mismatch]");
+    }
+    messages_ << "\n";
+    if (message.title == "Error") errorShown_ = true;
+  }
+
+  int Failed(const std::string& why) {
+    messages_ << "ostraline-convert: " << (step_.empty() ? "" : step_ + ": ") << why << "\n";
+    return 1;
+  }
+
+  // An import took when its button went dark: that is how the chain moves on.
+  // A message on the way (the first target below a short core, say) is told
+  // but does not undo it.
+  bool Import(const char* what, const std::string& file, CommandButton& button,
+              const std::function<void()>& click) {
+    Step(std::string(what) + " " + file);
+    platform_.QueueFile(file);
+    click();
+    if (!button.Enabled) return true;
+    Failed("not imported");
+    return false;
+  }
+
+  // Through the menu where it has a handler, as a user would choose.
+  static void ChooseDigits(ControlArray<Menu>& menu, int digits, Integer& precision) {
+    if (menu(digits).Click) {
+      menu(digits).Click();
+    } else {
+      precision = digits;
+    }
+  }
+
+  bool ChooseScales(FrmConversion& form) {
+    // Only what the user could click: a dark option is not offered.
+    const int from = options_.from.value_or(FromKind);
+    if (!form.Option1(from).Enabled) {
+      Failed(std::string("a file of ") + ScaleName(from) +
+             " cannot be converted with the files imported");
+      return false;
+    }
+    form.Option1(from).Value = true;
+    if (!options_.to) return true;
+    for (int code : {1, 2, 4, 8}) {
+      CheckBox& box = form.Check1(code);
+      const bool wanted = (*options_.to & code) != 0;
+      if (box.Enabled) {
+        box.Value = wanted ? 1 : 0;
+      } else if (wanted && box.Value != 1) {
+        Failed(std::string("--to ") + ScaleName(code) + ": not offered for a file of " +
+               ScaleName(from) + " with the files imported");
+        return false;
+      }
+    }
+    return true;
+  }
+
+  const ConvertOptions& options_;
+  std::ostream& messages_;
+  ConsolePlatform platform_;
+  std::string step_;
+  bool errorShown_ = false;
+};
+
+}  // namespace
+
+int RunConversion(const ConvertOptions& options, std::ostream& messages) {
+  return Conversion(options, messages).Run();
+}
+
+}  // namespace ostraline::cli

@@ -1,0 +1,140 @@
+// The second pass of "Convert and Save": the converted file's columns, in
+// the layout of the scale given (FromKind) and the scales ticked (ToMask).
+#include <string>
+
+#include "core/field_reader.h"
+#include "core/number_text.h"
+#include "core/project_state.h"
+#include "display/frm_main.h"
+#include "events/age_lookup.h"
+#include "events/batch_conversion.h"
+#include "events/batch_output_file.h"
+#include "events/batch_state.h"
+#include "events/event_free_depth.h"
+#include "events/event_state.h"
+
+namespace ostraline {
+namespace {
+
+bool Wants(int scale) {
+  return (ToMask & scale) != 0;
+}
+
+double NumberOf(const Variant& cell) {
+  return Val(cell.ToText());
+}
+
+// The age of one EFD with its errors and unit, as one GetAgeFromEFD gives them.
+struct AgeCells {
+  Single age;
+  Single plus;
+  Single minus;
+  Variant unit;
+};
+
+AgeCells AgeOfEfd(const Variant& efdCell) {
+  const Single efd = CSng(NumberOf(efdCell));
+  const double age = GetAgeFromEFD(efd).ToDouble();
+  AgeCells cells{CSng(Round(age, AgePrecision)), CSng(Round(AgeErrorPlus, AgePrecision)),
+                 CSng(Round(AgeErrorMinus, AgePrecision)), Variant()};
+  if (efd == 9999 || efd == -9999) {
+    // No rows were looked up: the unit column carries the missing EFD.
+    cells.unit = efd;
+  } else if (AgeModel(9, AgeRowLower) == AgeModel(9, AgeRowUpper)) {
+    cells.unit = AgeModel(9, AgeRowUpper);
+  } else {
+    // The two control points give their ages in different units.
+    cells.unit = "Hybrid unit";
+  }
+  return cells;
+}
+
+void ErrorTitles(FieldWriter& row) {
+  row.Text("Age " + ErrorLevelPlus + " error (+)");
+  row.Text("Age " + ErrorLevelMinus + " error (-)");
+  row.Text("Age unit");
+}
+
+void ErrorCells(FieldWriter& row, const AgeCells& cells) {
+  row.Number(cells.plus);
+  row.Number(cells.minus);
+  row.Value(cells.unit);
+}
+
+void AgeColumns(FieldWriter& row, bool header, const ColumnTitles& titles, const Variant& efd) {
+  if (header) {
+    row.Text(titles.age);
+    ErrorTitles(row);
+    return;
+  }
+  const AgeCells cells = AgeOfEfd(efd);
+  row.Number(cells.age);
+  ErrorCells(row, cells);
+}
+
+// A value that is a depth: label, value, the other depth when both are
+// ticked, then the age of the row's EFD.
+void DepthValueRow(FieldWriter& row, long r, const ColumnTitles& titles) {
+  const bool header = r == 0;
+  row.Value(ValueTable(1, r));
+  row.Value(ValueTable(2, r));
+  if (Wants(kScaleComposite) && Wants(kScaleEfd)) row.Value(ValueTable(3, r));
+  if (Wants(kScaleAge)) {
+    const Variant& efd = FromKind == kScaleComposite ? ValueTable(3, r) : ValueTable(2, r);
+    AgeColumns(row, header, titles, efd);
+  }
+}
+
+// A value that is an age: the age as given and its errors first, then the
+// depths, composite before EFD.
+void AgeValueRow(FieldWriter& row, long r, const ColumnTitles& titles) {
+  const bool header = r == 0;
+  row.Value(ValueTable(1, r));
+  row.Value(ValueTable(2, r));
+  if (header) {
+    ErrorTitles(row);
+  } else {
+    ErrorCells(row, AgeOfEfd(ValueTable(3, r)));
+  }
+  if (Wants(kScaleComposite)) {
+    if (header) {
+      row.Text(titles.composite);
+    } else {
+      row.Value(EFDToCD(CSng(NumberOf(ValueTable(3, r)))));
+    }
+  }
+  if (Wants(kScaleEfd)) row.Value(ValueTable(3, r));
+}
+
+// A position: the file's four columns, then composite depth, EFD and age.
+void PositionRow(FieldWriter& row, long r, const ColumnTitles& titles) {
+  const bool header = r == 0;
+  for (int column = 0; column <= 3; ++column) row.Value(ConversionTable(column, r));
+  if (Wants(kScaleComposite)) {
+    if (header) {
+      row.Value(ConversionTable(4, 0));
+    } else {
+      row.Number(Round(ConversionTable(4, r).ToDouble(), DepthPrecision));
+    }
+  }
+  if (Wants(kScaleEfd)) row.Value(ConversionTable(5, r));
+  if (Wants(kScaleAge)) AgeColumns(row, header, titles, ConversionTable(5, r));
+}
+
+}  // namespace
+
+void WriteConvertedRows(FrmMain& form, const ColumnTitles& titles, ReplacementFile& out) {
+  const bool positions = FromKind == kScaleTrinity;
+  const long rows = static_cast<long>(positions ? ConversionRows : ValueRows);
+  auto writeRow = positions ? PositionRow : FromKind == kScaleAge ? AgeValueRow : DepthValueRow;
+  form.ProgressBar1.Max = static_cast<float>(rows);
+  for (long r = 0; r <= rows; ++r) {
+    form.ProgressBar1.Value = static_cast<float>(r);
+    FieldWriter row;
+    writeRow(row, r, titles);
+    row.EndRow();
+    out.Write(row.Content());
+  }
+}
+
+}  // namespace ostraline

@@ -1,0 +1,57 @@
+// "Convert and Save": the chosen scales of every row of the data file into a
+// new comma-separated file.
+#include "core/import_pattern.h"
+#include "core/failure.h"
+#include "core/project_state.h"
+#include "display/frm_conversion.h"
+#include "display/frm_main.h"
+#include "display/platform.h"
+#include "events/batch_conversion.h"
+#include "events/batch_output_file.h"
+#include "events/batch_state.h"
+
+namespace ostraline {
+
+void FrmConversion::Command1_Click() {
+  FrmMain& main = *frmMain;
+  bool dialogPassed = false;
+  try {
+    ToMask = TickedScales(*this);
+    FromKind = ChosenScale(*this);
+    // No lookup may write the main form's caption of the interpolation.
+    DriveIndex = 0;
+
+    main.CommonDialog1.CancelError = true;
+    main.CommonDialog1.Filter = "DataFile(*.csv)|*.csv";
+    main.CommonDialog1.OverwritePrompt = true;
+    main.CommonDialog1.ShowSave();
+    dialogPassed = true;
+    ReplacementFile out(main.CommonDialog1.FileName);
+
+    Screen.SetMousePointer(11);
+    main.ProgressBar1.Value = 0;
+    main.ProgressBar1.Visible = true;
+    const ColumnTitles titles = MakeColumnTitles();
+    if (!ConvertValuesFirstPass(main, titles)) {
+      MsgBox("Ostraline could not import the file. Please check the file format.", MsgButtons::Ok,
+             "Error", MsgIcon::Exclamation);
+      ResetProgress(main);
+      frmConversion.Unload();
+      return;
+    }
+    WriteConvertedRows(main, titles, out);
+    out.Commit();
+    ResetProgress(main);
+    frmConversion.Unload();
+  } catch (const RuntimeFailure&) {
+    // The form stays open, so that the user can close the file and press again.
+    ResetProgress(main);
+    if (dialogPassed) {
+      MsgBox(
+          "The file might be being used by another software. Please close the file and try again.",
+          MsgButtons::Ok, "Error", MsgIcon::Exclamation);
+    }
+  }
+}
+
+}  // namespace ostraline

@@ -1,0 +1,44 @@
+// The first pass of "Convert and Save" over a file of values: column 3 of
+// ValueTable takes the EFD (from an age or a composite depth) or the
+// composite depth (from an EFD), the scale that the second pass builds on.
+#include "core/number_text.h"
+#include "core/project_state.h"
+#include "display/frm_main.h"
+#include "events/age_lookup.h"
+#include "events/batch_conversion.h"
+#include "events/batch_state.h"
+#include "events/event_free_depth.h"
+
+namespace ostraline {
+
+ColumnTitles MakeColumnTitles() {
+  return {"Age (age model: version " + AgeModelVersion + ")",
+          "Composite depth (correlation model: version " + ModelVersion + ")",
+          "Event free depth (event list: version " + EventListVersion + ")"};
+}
+
+bool ConvertValuesFirstPass(FrmMain& form, const ColumnTitles& titles) {
+  if (FromKind == kScaleTrinity) return true;
+  Variant (*convert)(Single) = nullptr;
+  if (FromKind == kScaleAge) {
+    convert = [](Single age) -> Variant {
+      return Round(GetEFDFromAge(age).ToDouble(), DepthPrecision);
+    };
+  } else if (FromKind == kScaleComposite) {
+    convert = CDToEFD;
+  } else if (FromKind == kScaleEfd) {
+    convert = EFDToCD;
+  } else {
+    return false;
+  }
+  ValueTable(3, 0) = FromKind == kScaleEfd ? titles.composite : titles.efd;
+  form.ProgressBar1.Max = static_cast<float>(ValueRows);
+  for (long row = 1; row <= ValueRows; ++row) {
+    form.ProgressBar1.Value = static_cast<float>(row);
+    const Variant& value = ValueTable(2, row);
+    ValueTable(3, row) = IsNoValue(value) ? value : convert(CSng(Val(value.ToText())));
+  }
+  return true;
+}
+
+}  // namespace ostraline

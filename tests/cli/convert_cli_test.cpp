@@ -1,0 +1,235 @@
+#include <sys/wait.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "core/project_state.h"
+#include "display/frm_conversion.h"
+#include "display/frm_main.h"
+#include "support/fresh_program.h"
+
+namespace ostraline {
+namespace {
+
+namespace fs = std::filesystem;
+
+// Bore hole A in two sections: ties PSP 10 at 110 cm and 50 at 160 cm, then
+// 20 at 230 and 60 at 270; the other holes have no cells. Every cell carries
+// the model's prefix character.
+std::string ModelFile() {
+  const std::vector<std::vector<std::string>> rows = {
+      {"Splice", "Bore hole A (A)", "PSP", "Drilling depth", "Bore hole B (B)", "PSP",
+       "Drilling depth", "Bore hole C (C)", "PSP", "Drilling depth", "Bore hole D (D)", "PSP",
+       "Drilling depth", "Composite depth"},
+      {"A", "A-01-top", "0", "100", "", ""},
+      {"A", "L1", "10", "110", "", "110"},
+      {"A", "L2", "50", "150", "", "160"},
+      {"A", "A-01-bottom", "80", "180", "", ""},
+      {"Gap", "A-02-top", "0", "185", "", ""},
+      {"A", "L3", "20", "205", "", "230"},
+      {"A", "L4", "60", "245", "", "270"},
+      {"A", "A-02-bottom", "90", "275", "", ""}};
+  std::string text;
+  for (const auto& row : rows) {
+    std::vector<std::string> cells = row;
+    if (cells.size() == 6) {
+      // Splice, hole A's three cells, the starred holes B to D, the composite depth.
+      cells = {row[0], row[1], row[2], row[3], "*", "*", "*", "*", "*", "*", "*", "*", "*", row[5]};
+    }
+    for (std::size_t i = 0; i < cells.size(); ++i) text += (i == 0 ? "'" : ",'") + cells[i];
+    text += "\r\n";
+  }
+  return text;
+}
+
+// One layer from 150 to 160 cm, made of two rows that fuse.
+const char* const kEvents =
+    "Hole,Section,Top,Bottom,Description\r\nA,01,42,48,Tephra\r\nA,01,46,50,Void\r\n";
+// Control points at EFD 140, 190 and 240: 20 years to the cm.
+const char* const kAges =
+    "Label,Hole,Section,PSP,Composite depth (05 Mar. 2011),Plus error 95.4,Age,Minus error "
+    "68.2,Class,Unit,Remark\r\n"
+    "P1,A,01,34,0,10,1000,20,C1,cal BP,-\r\n"
+    "P2,---,---,---,200,20,2000,30,C1,cal BP,-\r\n"
+    "P3,A,02,40,0,40,3000,40,C1,varve yr,-\r\n";
+// A record that spans no pair of control points: the ages stay linear in EFD.
+const char* const kVarves = "Composite depth,Varves\r\n120,10\r\n125,20\r\n130,30\r\n";
+const char* const kPositions =
+    "Sample,Hole,Section,PSP\r\nS1,A,01,30\r\nS2,Bore hole A,01,46\r\nS3,A,02,30\r\n";
+
+const std::string kHeader =
+    "\"Sample\",\"Hole\",\"Section\",\"PSP\",\"Composite depth (correlation model: version 05 Mar. "
+    "2011)\"";
+
+struct Outcome {
+  int status;
+  std::string errors;
+};
+
+class ConvertCommand : public FreshProgram {
+ protected:
+  void SetUp() override {
+    FreshProgram::SetUp();
+    const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
+    folder = fs::temp_directory_path() / "ostraline-cli-tests" / info->name();
+    fs::remove_all(folder);
+    fs::create_directories(folder);
+    Write("model_20110305.csv", ModelFile());
+    Write("events_20110401.csv", kEvents);
+    Write("ages_20120101.csv", kAges);
+    Write("varves_20130201.csv", kVarves);
+    Write("samples.csv", kPositions);
+  }
+
+  std::string Path(const std::string& name) const { return (folder / name).string(); }
+  void Write(const std::string& name, const std::string& text) const {
+    std::ofstream(Path(name), std::ios::binary) << text;
+  }
+  std::string Read(const std::string& name) const {
+    std::ifstream in(Path(name), std::ios::binary);
+    std::ostringstream text;
+    text << in.rdbuf();
+    return text.str();
+  }
+
+  // Runs the program in the folder; names without a slash are its files.
+  Outcome Convert(const std::string& arguments) const {
+    const std::string errors = Path("stderr.txt");
+    const std::string command = "cd '" + folder.string() + "' && '" + OSTRALINE_CONVERT + "' " +
+                                arguments + " > stdout.txt 2> '" + errors + "'";
+    const int raw = std::system(command.c_str());
+    return {WIFEXITED(raw) ? WEXITSTATUS(raw) : -1, Read("stderr.txt")};
+  }
+
+  fs::path folder;
+};
+
+TEST_F(ConvertCommand, ConvertsThroughTheWholeImportChain) {
+  const Outcome run = Convert(
+      "--model model_20110305.csv --events events_20110401.csv --ages ages_20120101.csv "
+      "--varves varves_20130201.csv samples.csv out.csv");
+  EXPECT_EQ(run.status, 0) << run.errors;
+  EXPECT_EQ(run.errors, "");
+  EXPECT_EQ(
+      Read("out.csv"),
+      kHeader +
+          ",\"Event free depth (event list: version 01 Apr. 2011)\",\"Age (age model: version "
+          "01 Jan. 2012)\",\"Age 95.4 % error (+)\",\"Age 68.2 % error (-)\",\"Age unit\"\r\n"
+          "\"S1\",\"A\",\"01\",\"30\",135,135,900,9,19,\"cal BP\"\r\n"
+          "\"S2\",\"Bore hole A\",\"01\",\"46\",155,150,1200,12,22,\"cal BP\"\r\n"
+          "\"S3\",\"A\",\"02\",\"30\",240,230,2800,36,38,\"Hybrid unit\"\r\n");
+}
+
+TEST_F(ConvertCommand, ChoicesOfTheCommandLine) {
+  // PSP 0 lies 10 below the first tie: 97.5 cm by proportion, 100 cm one to one.
+  Write("samples.csv", "Sample,Hole,Section,PSP\r\nS0,A,01,0\r\nS1,A,01,31\r\n");
+  Outcome run =
+      Convert("--model model_20110305.csv --to composite --depth-digits 1 samples.csv out.csv");
+  EXPECT_EQ(run.status, 0) << run.errors;
+  EXPECT_EQ(Read("out.csv"),
+            kHeader + "\r\n\"S0\",\"A\",\"01\",\"0\",97.5\r\n\"S1\",\"A\",\"01\",\"31\",136.2\r\n");
+  run = Convert("--model=model_20110305.csv --extrapolation one-to-one samples.csv out.csv");
+  EXPECT_EQ(run.status, 0) << run.errors;
+  EXPECT_EQ(Read("out.csv"),
+            kHeader + "\r\n\"S0\",\"A\",\"01\",\"0\",100\r\n\"S1\",\"A\",\"01\",\"31\",136.25\r\n");
+
+  // Values taken for another scale than the header says.
+  Write("values.csv", "Sample,Depth\r\nV1,135\r\nV2,151\r\nV3,240\r\n");
+  run = Convert(
+      "--model model_20110305.csv --events events_20110401.csv --from composite --to efd "
+      "values.csv out.csv");
+  EXPECT_EQ(run.status, 0) << run.errors;
+  EXPECT_EQ(Read("out.csv"),
+            "\"Sample\",\"Depth\",\"Event free depth (event list: version 01 Apr. 2011)\"\r\n"
+            "\"V1\",\"135\",135\r\n\"V2\",\"151\",150\r\n\"V3\",\"240\",230\r\n");
+
+  // A scale the files cannot give is refused, and nothing is written.
+  fs::remove(Path("out.csv"));
+  run = Convert("--model model_20110305.csv --to age samples.csv out.csv");
+  EXPECT_EQ(run.status, 1);
+  EXPECT_NE(run.errors.find("--to age"), std::string::npos) << run.errors;
+  EXPECT_FALSE(fs::exists(Path("out.csv")));
+}
+
+TEST_F(ConvertCommand, FailuresExitWithOneAndKeepTheOutput) {
+  Write("out.csv", "old rows\r\n");
+  Outcome run = Convert("--model missing.csv samples.csv out.csv");
+  EXPECT_EQ(run.status, 1);
+  EXPECT_NE(run.errors.find("missing.csv"), std::string::npos) << run.errors;
+
+  Write("short.csv", "Sample,Hole\r\nS1,A\r\n");
+  run = Convert("--model model_20110305.csv short.csv out.csv");
+  EXPECT_EQ(run.status, 1);
+  EXPECT_NE(run.errors.find("short.csv: Error: File format error."), std::string::npos)
+      << run.errors;
+
+  Write("values.csv", "Sample,Age\r\nT1,2400\r\nT2,1200\r\nT3,900\r\n");
+  run = Convert("--model model_20110305.csv values.csv out.csv");
+  EXPECT_EQ(run.status, 1);
+  EXPECT_NE(run.errors.find("Please import list of events."), std::string::npos) << run.errors;
+
+  // An age-depth model made for another model version: declined unless asked.
+  std::string otherAges = kAges;
+  otherAges.replace(otherAges.find("05 Mar."), 7, "06 Mar.");
+  Write("other_ages.csv", otherAges);
+  const std::string withOtherAges =
+      "--model model_20110305.csv --events events_20110401.csv --ages other_ages.csv ";
+  run = Convert(withOtherAges + "samples.csv out.csv");
+  EXPECT_EQ(run.status, 1);
+  EXPECT_NE(run.errors.find("WARNING!!: Version dates are inconsistent"), std::string::npos);
+  EXPECT_EQ(Read("out.csv"), "old rows\r\n");
+  run = Convert(withOtherAges + "--ignore-version-mismatch samples.csv out.csv");
+  EXPECT_EQ(run.status, 0) << run.errors;
+  EXPECT_NE(Read("out.csv").find("\"S1\",\"A\",\"01\",\"30\",135,135,900,9,19,\"cal BP\""),
+            std::string::npos);
+}
+
+TEST_F(ConvertCommand, WrongCommandLinesExitWithTwo) {
+  for (const char* arguments :
+       {"", "samples.csv out.csv", "--model model_20110305.csv samples.csv",
+        "--model model_20110305.csv --frobnicate samples.csv out.csv",
+        "--model model_20110305.csv --to composite,depth samples.csv out.csv",
+        "--model model_20110305.csv --depth-digits 5 samples.csv out.csv",
+        "--model model_20110305.csv --ages ages_20120101.csv samples.csv out.csv",
+        "--model model_20110305.csv samples.csv out.csv --from"}) {
+    const Outcome run = Convert(arguments);
+    EXPECT_EQ(run.status, 2) << arguments;
+    EXPECT_NE(run.errors.find("--help"), std::string::npos) << arguments;
+  }
+  EXPECT_FALSE(fs::exists(Path("out.csv")));
+  EXPECT_EQ(Convert("--help").status, 0);
+  EXPECT_NE(Read("stdout.txt").find("--ignore-version-mismatch"), std::string::npos);
+}
+
+// The program drives the forms as a user does: its file is the one the
+// desktop program writes for the same files and choices.
+TEST_F(ConvertCommand, SameBytesAsTheForms) {
+  ASSERT_EQ(Convert("--model model_20110305.csv --events events_20110401.csv --ages "
+                    "ages_20120101.csv --to composite,age --age-digits 1 samples.csv out.csv")
+                .status,
+            0);
+  FrmMain& main = *frmMain;
+  const char* imports[] = {"model_20110305.csv", "events_20110401.csv", "ages_20120101.csv"};
+  platform.QueueFile(Path(imports[0]));
+  main.Command1_Click();
+  AgePrecision = 1;
+  platform.QueueFile(Path(imports[1]));
+  main.Command3_Click();
+  platform.QueueFile(Path(imports[2]));
+  main.Command4_Click();
+  platform.QueueFile(Path("samples.csv"));
+  main.Command2_Click();
+  frmConversion->Check1(4).Value = 0;
+  platform.QueueFile(Path("forms.csv"));
+  frmConversion->Command1_Click();
+  ASSERT_TRUE(platform.messages.empty());
+  EXPECT_EQ(Read("out.csv"), Read("forms.csv"));
+  EXPECT_NE(Read("out.csv").find("\"Age unit\"\r\n"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace ostraline

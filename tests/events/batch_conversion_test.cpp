@@ -1,0 +1,348 @@
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <sstream>
+#include <string>
+
+#include "core/project_state.h"
+#include "display/frm_conversion.h"
+#include "display/frm_main.h"
+#include "events/batch_state.h"
+#include "events/event_state.h"
+#include "support/age_files.h"
+#include "support/model_files.h"
+
+namespace ostraline {
+namespace {
+
+const std::string kCdTitle = "\"Composite depth (correlation model: version 05 Mar. 2011)\"";
+const std::string kEfdTitle = "\"Event free depth (event list: version 01 Apr. 2011)\"";
+const std::string kAgeTitles =
+    "\"Age (age model: version 01 Jan. 2012)\",\"Age 95.4 % error (+)\",\"Age 68.2 % error (-)\","
+    "\"Age unit\"";
+
+// Samples by position. In section 01 of bore hole A the composite depth is
+// 110 + (PSP - 10) * 1.25, in section 02 it is 210 + PSP; the layer from 150
+// to 160 cm is cut out of the EFD. S2 names the hole by its long title, S4
+// lies below its section's bottom (PSP 80), S6 names no hole of the model.
+const char* const kPositions =
+    "Sample,Hole,Section,PSP\r\nS1,A,01,30\r\nS2,Bore hole A,01,46\r\nS3,A,02,30\r\n"
+    "S4,A,01,85\r\nS5,A,01,9999\r\nS6,X,01,10\r\n";
+
+class BatchConversion : public AgeProgram {
+ protected:
+  // Control points at EFD 140, 190 and 240 (composite 140, 200 and 250):
+  // 20 years to the cm, the last one counted in another unit.
+  void ImportAll() {
+    ImportModelAndEvents(kFusedLayer);
+    ImportAges({{"P1", "A", "01", "34", "0", "10", "1000", "20", "C1", "cal BP", "-"},
+                {"P2", "---", "---", "---", "200", "20", "2000", "30", "C1", "cal BP", "-"},
+                {"P3", "A", "02", "40", "0", "40", "3000", "40", "C1", "varve yr", "-"}});
+    ASSERT_TRUE(platform.messages.empty()) << OnlyMessage();
+    ASSERT_TRUE(AgeModelLoaded);
+  }
+
+  void ReadDataFile(const std::string& text) {
+    platform.QueueFile(WriteTempFile("samples.csv", text));
+    frmMain->Command2_Click();
+  }
+
+  static void Untick(std::initializer_list<int> scales) {
+    for (int scale : scales) frmConversion->Check1(scale).Value = 0;
+  }
+
+  static std::string Contents(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    std::ostringstream text;
+    text << in.rdbuf();
+    return text.str();
+  }
+
+  // Reads the data file, makes the choices on the form, presses "Convert and
+  // Save" and gives back what was written.
+  std::string Convert(const std::string& data, const std::function<void()>& choose = {}) {
+    ReadDataFile(data);
+    if (!frmConversion.IsLoaded()) return "<no form>";
+    if (choose) choose();
+    output = WriteTempFile("converted.csv", "");
+    platform.QueueFile(output);
+    frmConversion->Command1_Click();
+    return Contents(output);
+  }
+
+  std::string output;
+};
+
+TEST_F(BatchConversion, PositionsGiveEveryTickedScale) {
+  ImportAll();
+  const std::string label9 = frmMain->Label9.Caption;
+  EXPECT_EQ(Convert(kPositions),
+            "\"Sample\",\"Hole\",\"Section\",\"PSP\"," + kCdTitle + "," + kEfdTitle + "," +
+                kAgeTitles +
+                "\r\n"
+                "\"S1\",\"A\",\"01\",\"30\",135,135,900,9,19,\"cal BP\"\r\n"
+                "\"S2\",\"Bore hole A\",\"01\",\"46\",155,150,1200,12,22,\"cal BP\"\r\n"
+                "\"S3\",\"A\",\"02\",\"30\",240,230,2800,36,38,\"Hybrid unit\"\r\n"
+                "\"S4\",\"A\",\"01\",\"85\",9999,9999,9999,9999,9999,9999\r\n"
+                "\"S5\",\"A\",\"01\",\"9999\",9999,\"9999\",9999,9999,9999,9999\r\n"
+                "\"S6\",\"X\",\"01\",\"10\",9999,9999,9999,9999,9999,9999\r\n");
+  EXPECT_TRUE(platform.messages.empty());
+  EXPECT_FALSE(frmConversion.IsLoaded());
+  EXPECT_EQ(frmMain->Label9.Caption.Get(), label9);
+  EXPECT_EQ(DriveIndex, 0);
+  EXPECT_FALSE(frmMain->ProgressBar1.Visible);
+  EXPECT_EQ(platform.dialogs.back().filter, "DataFile(*.csv)|*.csv");
+  EXPECT_TRUE(platform.dialogs.back().overwritePrompt);
+
+  // Label, hole, section and PSP always; each other scale only by its tick.
+  EXPECT_EQ(Convert(kPositions,
+                    [] {
+                      Untick({kScaleEfd, kScaleAge});
+                    }),
+            "\"Sample\",\"Hole\",\"Section\",\"PSP\"," + kCdTitle +
+                "\r\n\"S1\",\"A\",\"01\",\"30\",135\r\n\"S2\",\"Bore hole A\",\"01\",\"46\",155\r\n"
+                "\"S3\",\"A\",\"02\",\"30\",240\r\n\"S4\",\"A\",\"01\",\"85\",9999\r\n"
+                "\"S5\",\"A\",\"01\",\"9999\",9999\r\n\"S6\",\"X\",\"01\",\"10\",9999\r\n");
+  EXPECT_EQ(ToMask, 3);
+  const std::string efdOnly = Convert(kPositions, [] { Untick({kScaleComposite, kScaleAge}); });
+  EXPECT_EQ(ToMask, 5);
+  EXPECT_EQ(efdOnly.substr(0, efdOnly.find("\r\n\"S2")),
+            "\"Sample\",\"Hole\",\"Section\",\"PSP\"," + kEfdTitle +
+                "\r\n\"S1\",\"A\",\"01\",\"30\",135");
+  const std::string ageOnly = Convert(kPositions, [] { Untick({kScaleComposite, kScaleEfd}); });
+  EXPECT_EQ(ToMask, 9);
+  EXPECT_NE(ageOnly.find("\r\n\"S3\",\"A\",\"02\",\"30\",2800,36,38,\"Hybrid unit\"\r\n"),
+            std::string::npos);
+
+  // One decimal: PSP 31 lies at 136.25 cm, rounded half to even; its age
+  // comes from the rounded EFD, 1000 + (136.2 - 140) * 20. The section's
+  // bottom (PSP 80) and top (PSP 0) are inside it.
+  DepthPrecision = 1;
+  EXPECT_EQ(Convert("Sample,Hole,Section,PSP\r\nS7,A,01,31\r\nS8,A,01,80\r\nS9,A,01,0\r\n"),
+            "\"Sample\",\"Hole\",\"Section\",\"PSP\"," + kCdTitle + "," + kEfdTitle + "," +
+                kAgeTitles +
+                "\r\n\"S7\",\"A\",\"01\",\"31\",136.2,136.2,924,9,19,\"cal BP\"\r\n"
+                "\"S8\",\"A\",\"01\",\"80\",197.5,187.5,1950,20,30,\"cal BP\"\r\n"
+                "\"S9\",\"A\",\"01\",\"0\",97.5,97.5,150,2,12,\"cal BP\"\r\n");
+}
+
+TEST_F(BatchConversion, CompositeDepthValues) {
+  ImportAll();
+  const std::string data = "Sample,Composite depth\r\nC1,135\r\nC2,155\r\nC3,240\r\nC4,9999\r\n";
+  EXPECT_EQ(Convert(data), "\"Sample\",\"Composite depth\"," + kEfdTitle + "," + kAgeTitles +
+                               "\r\n"
+                               "\"C1\",\"135\",135,900,9,19,\"cal BP\"\r\n"
+                               "\"C2\",\"155\",150,1200,12,22,\"cal BP\"\r\n"
+                               "\"C3\",\"240\",230,2800,36,38,\"Hybrid unit\"\r\n"
+                               "\"C4\",\"9999\",\"9999\",9999,9999,9999,9999\r\n");
+  EXPECT_EQ(InputKind, kScaleComposite);
+  EXPECT_EQ(ToMask, 14);
+  // The EFD is written only beside the composite depth; without it, the age still comes from it.
+  EXPECT_EQ(
+      Convert(data, [] { Untick({kScaleEfd}); }),
+      "\"Sample\",\"Composite depth\"," + kAgeTitles +
+          "\r\n\"C1\",\"135\",900,9,19,\"cal BP\"\r\n\"C2\",\"155\",1200,12,22,\"cal BP\"\r\n"
+          "\"C3\",\"240\",2800,36,38,\"Hybrid unit\"\r\n\"C4\",\"9999\",9999,9999,9999,9999\r\n");
+  EXPECT_EQ(Convert(data, [] { Untick({kScaleAge}); }),
+            "\"Sample\",\"Composite depth\"," + kEfdTitle +
+                "\r\n\"C1\",\"135\",135\r\n\"C2\",\"155\",150\r\n\"C3\",\"240\",230\r\n"
+                "\"C4\",\"9999\",\"9999\"\r\n");
+  EXPECT_EQ(Convert(data,
+                    [] {
+                      Untick({kScaleEfd, kScaleAge});
+                    }),
+            "\"Sample\",\"Composite depth\"\r\n\"C1\",\"135\"\r\n\"C2\",\"155\"\r\n"
+            "\"C3\",\"240\"\r\n\"C4\",\"9999\"\r\n");
+  EXPECT_TRUE(platform.messages.empty());
+}
+
+TEST_F(BatchConversion, EfdValuesUnderAnyOtherHeaderWord) {
+  ImportAll();
+  // "Depth" is none of the three words: the values are taken for EFD. EFD
+  // 151 lies below the layer, so 10 cm come back; the junction 150 maps to
+  // the layer's top.
+  const std::string data =
+      "Sample,Depth below lake floor\r\nE1,135\r\nE2,151\r\nE3,150\r\nE4,-9999\r\n";
+  EXPECT_EQ(Convert(data, [] { Untick({kScaleAge}); }),
+            "\"Sample\",\"Depth below lake floor\"," + kCdTitle +
+                "\r\n\"E1\",\"135\",135\r\n\"E2\",\"151\",161\r\n\"E3\",\"150\",150\r\n"
+                "\"E4\",\"-9999\",\"-9999\"\r\n");
+  EXPECT_EQ(InputKind, kScaleEfd);
+  EXPECT_EQ(ToMask, 6);
+  AgePrecision = 1;
+  EXPECT_EQ(
+      Convert(data, [] { Untick({kScaleComposite}); }),
+      "\"Sample\",\"Depth below lake floor\"," + kAgeTitles +
+          "\r\n\"E1\",\"135\",900,9,19,\"cal BP\"\r\n\"E2\",\"151\",1220,12.2,22.2,\"cal BP\"\r\n"
+          "\"E3\",\"150\",1200,12,22,\"cal BP\"\r\n\"E4\",\"-9999\",-9999,-9999,-9999,-9999\r\n");
+  EXPECT_EQ(ToMask, 12);
+  EXPECT_EQ(Convert(data,
+                    [] {
+                      Untick({kScaleComposite, kScaleAge});
+                    }),
+            "\"Sample\",\"Depth below lake floor\"\r\n\"E1\",\"135\"\r\n\"E2\",\"151\"\r\n"
+            "\"E3\",\"150\"\r\n\"E4\",\"-9999\"\r\n");
+}
+
+TEST_F(BatchConversion, AgeValuesComeFirstWithTheirErrors) {
+  ImportAll();
+  // Age 2400 lies at EFD 190 + 400 / 20 = 210, below the layer: composite 220.
+  const std::string data = "Sample,Age (cal BP)\r\nT1,2400\r\nT2,1200\r\nT3,-9999\r\nT4,900\r\n";
+  EXPECT_EQ(Convert(data),
+            "\"Sample\",\"Age (cal BP)\",\"Age 95.4 % error (+)\",\"Age 68.2 % error (-)\","
+            "\"Age unit\"," +
+                kCdTitle + "," + kEfdTitle +
+                "\r\n"
+                "\"T1\",\"2400\",28,34,\"Hybrid unit\",220,210\r\n"
+                "\"T2\",\"1200\",12,22,\"cal BP\",150,150\r\n"
+                "\"T3\",\"-9999\",-9999,-9999,-9999,-9999,\"-9999\"\r\n"
+                "\"T4\",\"900\",9,19,\"cal BP\",135,135\r\n");
+  EXPECT_EQ(InputKind, kScaleAge);
+  const std::string ageOnly = Convert(data, [] { Untick({kScaleComposite, kScaleEfd}); });
+  EXPECT_EQ(ToMask, 8);
+  EXPECT_NE(ageOnly.find("\r\n\"T1\",\"2400\",28,34,\"Hybrid unit\"\r\n"), std::string::npos);
+  EXPECT_NE(Convert(data, [] { Untick({kScaleEfd}); })
+                .find("\r\n\"T1\",\"2400\",28,34,\"Hybrid unit\",220\r\n"),
+            std::string::npos);
+  EXPECT_EQ(ToMask, 10);
+  EXPECT_NE(Convert(data, [] { Untick({kScaleComposite}); })
+                .find("\r\n\"T1\",\"2400\",28,34,\"Hybrid unit\",210\r\n"),
+            std::string::npos);
+  EXPECT_EQ(ToMask, 12);
+}
+
+TEST_F(BatchConversion, FormOffersTheScalesTheFilesAllow) {
+  ImportAll();
+  ReadDataFile(kPositions);
+  FrmConversion& form = *frmConversion;
+  EXPECT_TRUE(form.Option1(kScaleTrinity).Value);
+  EXPECT_TRUE(form.Option1(kScaleTrinity).Enabled);
+  EXPECT_FALSE(form.Option1(kScaleComposite).Enabled);
+  EXPECT_TRUE(form.Label1.Enabled);
+  EXPECT_FALSE(form.Check1(kScaleTrinity).Enabled);
+  EXPECT_EQ(form.Check1(kScaleTrinity).Value, 1);
+  EXPECT_FALSE(form.Label2.Enabled);
+  Unload("frmConversion");
+
+  ReadDataFile("Sample,Composite depth\r\nC1,135\r\nC2,155\r\nC3,240\r\n");
+  EXPECT_FALSE(frmConversion->Option1(kScaleTrinity).Enabled);
+  EXPECT_FALSE(frmConversion->Label1.Enabled);
+  for (int scale : {kScaleComposite, kScaleEfd, kScaleAge}) {
+    EXPECT_TRUE(frmConversion->Option1(scale).Enabled) << scale;
+  }
+  EXPECT_EQ(frmConversion->Check1(kScaleTrinity).Value, 0);
+  EXPECT_FALSE(frmConversion->Check1(kScaleComposite).Enabled);
+  // Another input scale: the new one is ticked for good, the old one may go.
+  frmConversion->Option1(kScaleAge).Value = true;
+  EXPECT_EQ(FromKind, kScaleAge);
+  EXPECT_FALSE(frmConversion->Check1(kScaleAge).Enabled);
+  EXPECT_TRUE(frmConversion->Check1(kScaleComposite).Enabled);
+  EXPECT_EQ(frmConversion->Check1(kScaleComposite).Value, 1);
+  EXPECT_EQ(ToMask, 14);
+
+  // Closing the form hands the focus back to the next import still open.
+  Unload("frmConversion");
+  EXPECT_EQ(FocusedControl(), &frmMain->Command5);
+}
+
+TEST_F(BatchConversion, ShapeIsToldByOneCell) {
+  ImportAll();
+  // The second sample's value must print back as itself: "1200.0" doesn't,
+  // so the two-column file is read four fields to a row as positions.
+  ReadDataFile("Sample,Age\r\nT1,2400\r\nT2,1200.0\r\nT3,900\r\nT4,800\r\nT5,700\r\n");
+  ASSERT_TRUE(frmConversion.IsLoaded());
+  EXPECT_EQ(InputKind, kScaleTrinity);
+  EXPECT_EQ(ConversionRows, 2);
+  EXPECT_EQ(ConversionTable(1, 1), Variant("1200.0"));
+  Unload("frmConversion");
+
+  // Fewer fields than two records of four: the program's message, no form.
+  ReadDataFile("Sample,Hole\r\nS1,A\r\n");
+  EXPECT_FALSE(frmConversion.IsLoaded());
+  EXPECT_EQ(OnlyMessage(), "Error: File format error.");
+  EXPECT_FALSE(frmMain->ProgressBar1.Visible);
+}
+
+TEST_F(BatchConversion, ValuesNeedTheEventList) {
+  platform.QueueFile(WriteTempFile("model_20110305.csv", ModelText(FourHoleModel())));
+  frmMain->Command1_Click();
+  ASSERT_TRUE(platform.messages.empty());
+  frmMain->Text2.SetFocus();
+  ReadDataFile("Sample,Age\r\nT1,2400\r\nT2,1200\r\nT3,900\r\n");
+  EXPECT_EQ(OnlyMessage(),
+            "Error: Please import list of events. Sample file is available at "
+            "https://www.ostraline.org/samples.");
+  EXPECT_FALSE(frmConversion.IsLoaded());
+  EXPECT_EQ(FocusedControl(), &frmMain->Command3);
+}
+
+TEST_F(BatchConversion, NoAgeModelNoAgeColumns) {
+  ImportModelAndEvents(kFusedLayer);
+  ReadDataFile(kPositions);
+  EXPECT_FALSE(frmConversion->Check1(kScaleAge).Enabled);
+  EXPECT_EQ(frmConversion->Check1(kScaleAge).Value, 0);
+  EXPECT_FALSE(frmConversion->Option1(kScaleAge).Enabled);
+  Unload("frmConversion");
+  const std::string written = Convert(kPositions);
+  EXPECT_EQ(written.substr(0, written.find("\r\n\"S2")),
+            "\"Sample\",\"Hole\",\"Section\",\"PSP\"," + kCdTitle + "," + kEfdTitle +
+                "\r\n\"S1\",\"A\",\"01\",\"30\",135,135");
+  EXPECT_EQ(ToMask, 7);
+}
+
+TEST_F(BatchConversion, CancelledSaveLeavesTheFormOpen) {
+  ImportAll();
+  ReadDataFile(kPositions);
+  output = WriteTempFile("converted.csv", "kept\r\n");
+  platform.QueueCancel();
+  frmConversion->Command1_Click();
+  EXPECT_TRUE(platform.messages.empty());
+  EXPECT_TRUE(frmConversion.IsLoaded());
+  EXPECT_EQ(Contents(output), "kept\r\n");
+}
+
+TEST_F(BatchConversion, FailedConversionKeepsTheFileThatWasThere) {
+  ImportAll();
+  const std::filesystem::path folder =
+      std::filesystem::path(WriteTempFile("samples.csv", "")).parent_path();
+  auto filesInFolder = [&] {
+    return std::distance(std::filesystem::directory_iterator(folder),
+                         std::filesystem::directory_iterator());
+  };
+  ReadDataFile(kPositions);
+  output = WriteTempFile("converted.csv", "old rows\r\n");
+  const auto before = filesInFolder();
+
+  // An age that is no number fails the first row's age, after the header.
+  AgeModel(7, 2) = "n/a";
+  platform.QueueFile(output);
+  frmConversion->Command1_Click();
+  EXPECT_EQ(
+      OnlyMessage(),
+      "Error: The file might be being used by another software. Please close the file and try "
+      "again.");
+  EXPECT_TRUE(frmConversion.IsLoaded());
+  EXPECT_EQ(Contents(output), "old rows\r\n");
+  EXPECT_EQ(filesInFolder(), before);
+
+  // A folder that does not exist: the same message, the form still open.
+  platform.messages.clear();
+  platform.QueueFile((folder / "missing" / "converted.csv").string());
+  frmConversion->Command1_Click();
+  EXPECT_EQ(platform.messages.size(), 1u);
+  EXPECT_TRUE(frmConversion.IsLoaded());
+
+  // No input scale chosen: the other message, and the form goes.
+  platform.messages.clear();
+  frmConversion->Option1(kScaleTrinity).Value = false;
+  platform.QueueFile(output);
+  frmConversion->Command1_Click();
+  EXPECT_EQ(OnlyMessage(),
+            "Error: Ostraline could not import the file. Please check the file format.");
+  EXPECT_FALSE(frmConversion.IsLoaded());
+  EXPECT_EQ(Contents(output), "old rows\r\n");
+  EXPECT_EQ(filesInFolder(), before);
+}
+
+}  // namespace
+}  // namespace ostraline
