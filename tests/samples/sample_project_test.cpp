@@ -1,0 +1,98 @@
+// The bundled sample project through the ordinary imports, against values
+// worked out by hand from its files (samples/EXPECTED.md).
+#include <filesystem>
+#include <string>
+
+#include "core/depth_conversions.h"
+#include "core/number_text.h"
+#include "core/project_state.h"
+#include "display/frm_main.h"
+#include "events/age_lookup.h"
+#include "events/event_free_depth.h"
+#include "events/event_state.h"
+#include "support/fresh_program.h"
+
+namespace ostraline {
+namespace {
+
+std::string Sample(const std::string& name) {
+  const std::filesystem::path path = std::filesystem::path(OSTRALINE_SAMPLES) / name;
+  if (!std::filesystem::exists(path)) ADD_FAILURE() << "sample file missing: " << path;
+  return path.string();
+}
+
+class SampleProject : public FreshProgram {
+ protected:
+  void ImportThrough(const std::string& file, void (FrmMain::*button)()) {
+    platform.QueueFile(Sample(file));
+    ((*frmMain).*button)();
+  }
+  void ImportModelEventsAndAges() {
+    ImportThrough("correlation_model_20250314.csv", &FrmMain::Command1_Click);
+    ImportThrough("event_layers_20250320.csv", &FrmMain::Command3_Click);
+    ImportThrough("age_depth_model_20250402.csv", &FrmMain::Command4_Click);
+  }
+  double Rounded(const Variant& value, int digits) { return Round(value.ToDouble(), digits); }
+};
+
+TEST_F(SampleProject, CorrelationModelAndItsConversions) {
+  ImportThrough("correlation_model_20250314.csv", &FrmMain::Command1_Click);
+  ASSERT_TRUE(platform.messages.empty());
+  EXPECT_EQ(LastRow, 1786);
+  EXPECT_EQ(ModelVersion, "14 Mar. 2025");
+  EXPECT_EQ(SectionCount(1), 45);
+  EXPECT_EQ(SectionCount(4), 29);
+  EXPECT_EQ(frmMain->Label1(2).Caption.Get(), "B (Core 6)");
+  EXPECT_EQ(TieCell(0, 1030), "Gap");
+  EXPECT_EQ(ModelCell(0, 3, 2, 283), "9999");  // "*1054.9"
+  EXPECT_FLOAT_EQ(CoreBottom(1), 7000.06069f);
+  EXPECT_FALSE(frmMain->Command1.Enabled);
+
+  EXPECT_EQ(Rounded(CompositeFromTrinity(1, 5, 76.1f), 2), 638.27);
+  EXPECT_EQ(Rounded(CompositeFromTrinity(1, 5, 183), 2), 745.36);
+  EXPECT_EQ(Rounded(CompositeFromTrinity(1, 12, 134.3f), 2), 1848.17);
+  frmMain->Option4(1).Value = true;
+  EXPECT_EQ(Rounded(CompositeFromTrinity(1, 5, 183), 2), 745.4);
+}
+
+TEST_F(SampleProject, EventLayersAndTheirFreeDepths) {
+  ImportThrough("correlation_model_20250314.csv", &FrmMain::Command1_Click);
+  ImportThrough("event_layers_20250320.csv", &FrmMain::Command3_Click);
+  ASSERT_TRUE(platform.messages.empty());
+  EXPECT_EQ(EventCount, 32);
+  EXPECT_EQ(MergedEventCount, 29);
+  EXPECT_EQ(EventListVersion, "20 Mar. 2025");
+  EXPECT_FLOAT_EQ(EventTop(1, 3), 331.0039f);   // two turbidites fused
+  EXPECT_FLOAT_EQ(EventBottom(1, 3), 336.4213f);
+  EXPECT_EQ(CDToEFD(638.268235f).ToDouble(), 621.3);
+  EXPECT_EQ(CDToEFD(1489.6f).ToDouble(), 1446.22);
+  EXPECT_EQ(EFDToCD(150.2f).ToDouble(), 151.94);
+  EXPECT_EQ(EFDToCD(621.3f).ToDouble(), 638.26);
+}
+
+TEST_F(SampleProject, AgesByEfdAndByVarveCount) {
+  ImportModelEventsAndAges();
+  ASSERT_TRUE(platform.messages.empty());
+  EXPECT_EQ(AgeModelCount, 30);
+  EXPECT_EQ(AgeReferenceCount, 4);
+  EXPECT_EQ(ErrorLevelPlus, "95.4 %");
+  EXPECT_EQ(AgeModel(5, 16), "1533.029");  // Poz-80544 placed by its position
+
+  EXPECT_EQ(Rounded(GetAgeFromCD(1650.4f), 0), 15206);
+  EXPECT_EQ(Round(AgeErrorPlus, 0), 261);
+  EXPECT_EQ(Round(AgeErrorMinus, 0), 191);
+  EXPECT_EQ(Rounded(GetAgeFromCD(1489.6f), 0), 14205);
+  EXPECT_NE(AgeModel(9, AgeRowLower), AgeModel(9, AgeRowUpper));  // a hybrid stretch
+  EXPECT_EQ(Rounded(GetAgeFromCD(245.3f), 0), 2392);
+
+  ImportThrough("varve_counts_20250325.csv", &FrmMain::Command5_Click);
+  ASSERT_TRUE(platform.messages.empty());
+  EXPECT_EQ(VarveCountRows, 315);
+  EXPECT_EQ(Rounded(GetAgeFromCD(245.3f), 0), 2359);
+  EXPECT_EQ(Round(AgeErrorPlus, 0), 65);
+  EXPECT_EQ(frmMain->Label9.Caption.Get(), "(interpolated by varve count)");
+  EXPECT_EQ(Rounded(GetAgeFromEFD(621.3f), 0), 6088);
+}
+
+}  // namespace
+}  // namespace ostraline
