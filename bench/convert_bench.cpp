@@ -12,6 +12,7 @@
 #include <string>
 #include <string_view>
 
+#include "bench/synthetic_project.h"
 #include "core/number_text.h"
 #include "core/project_state.h"
 #include "display/display_state.h"
@@ -39,30 +40,6 @@ std::string Pad3(int n) {
 // Appending part by part keeps GCC 12 from a false -Wrestrict on long + chains.
 void Append(std::string& text, std::initializer_list<std::string_view> parts) {
   for (std::string_view part : parts) text.append(part);
-}
-
-// Four bore holes cut alike into sections of fifty rows, two cm a row, a tie
-// every fifth row; section names "001" to "100".
-std::string ModelFile() {
-  std::string text = "'Splice";
-  for (char hole : std::string("ABCD")) {
-    text += std::string(",'Bore hole ") + hole + " (" + hole + "),'PSP,'Drilling depth";
-  }
-  text += ",'Composite depth\r\n";
-  for (int r = 1; r <= kModelRows; ++r) {
-    const int section = (r - 1) / kSectionRows + 1;
-    const int inSection = (r - 1) % kSectionRows;
-    text += "'A";
-    for (char hole : std::string("ABCD")) {
-      const std::string name = std::string(1, hole) + "-" + Pad3(section);
-      const std::string label = inSection == 0                  ? name + "-top"
-                                : inSection == kSectionRows - 1 ? name + "-bottom"
-                                                                : std::string("L").append(Str(r));
-      Append(text, {",'", label, ",'", Str(inSection * 2), ",'", Str(r * 2)});
-    }
-    Append(text, {",'", inSection % 5 == 0 ? Str(r * 2) : std::string(), "\r\n"});
-  }
-  return text;
 }
 
 // Three thin layers in each section of bore hole A.
@@ -120,36 +97,21 @@ std::string PositionFile() {
   return text;
 }
 
-std::string WriteFile(const std::string& name, const std::string& text) {
-  const auto path = std::filesystem::temp_directory_path() / ("ostraline-bench-" + name);
-  std::ofstream(path, std::ios::binary) << text;
-  return path.string();
-}
-
 class BatchConversion : public benchmark::Fixture {
  public:
   void SetUp(const benchmark::State&) override {
-    SetPlatform(&platform_);
+    ImportSyntheticModel(platform_, kModelRows, kSectionRows);
     FrmMain& main = *frmMain;
-    platform_.QueueFile(WriteFile("model_20110305.csv", ModelFile()));
-    main.Command1_Click();
-    platform_.QueueFile(WriteFile("events_20110401.csv", EventFile()));
+    platform_.QueueFile(WriteBenchFile("events_20110401.csv", EventFile()));
     main.Command3_Click();
-    platform_.QueueFile(WriteFile("ages_20120101.csv", AgeFile()));
+    platform_.QueueFile(WriteBenchFile("ages_20120101.csv", AgeFile()));
     main.Command4_Click();
-    platform_.QueueFile(WriteFile("varves_20130201.csv", VarveFile()));
+    platform_.QueueFile(WriteBenchFile("varves_20130201.csv", VarveFile()));
     main.Command5_Click();
-    input_ = WriteFile("samples.csv", PositionFile());
-    output_ = WriteFile("converted.csv", "");
+    input_ = WriteBenchFile("samples.csv", PositionFile());
+    output_ = WriteBenchFile("converted.csv", "");
   }
-  void TearDown(const benchmark::State&) override {
-    FormSlot::ResetAll();
-    coreState = CoreState{};
-    displayState = DisplayState{};
-    eventState = EventState{};
-    batchState = BatchState{};
-    SetPlatform(nullptr);
-  }
+  void TearDown(const benchmark::State&) override { EndBenchProgram(); }
 
  protected:
   // True when every import took and no message came.

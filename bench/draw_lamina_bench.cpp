@@ -7,6 +7,7 @@
 #include <fstream>
 #include <string>
 
+#include "bench/synthetic_project.h"
 #include "core/number_text.h"
 #include "core/project_state.h"
 #include "display/core_columns.h"
@@ -23,39 +24,6 @@ constexpr int kRows = 5000;
 constexpr int kSectionRows = 50;
 constexpr int kLayers = 300;
 constexpr int kAgePoints = 120;
-
-// Four bore holes cut alike into sections of fifty rows, a tie every fifth
-// row, a pin now and then, and the splice passing from hole to hole.
-std::string ModelFile() {
-  std::string text = "'Splice";
-  for (char hole : std::string("ABCD")) {
-    text += std::string(",'Bore hole ") + hole + " (" + hole + "),'PSP,'Drilling depth";
-  }
-  text += ",'Composite depth\r\n";
-  for (int r = 1; r <= kRows; ++r) {
-    const int section = (r - 1) / kSectionRows + 1;
-    const int inSection = (r - 1) % kSectionRows;
-    const char* splice[] = {"A", "B", "C", "D", "Gap"};
-    text += std::string("'") + splice[section % 5];
-    for (char hole : std::string("ABCD")) {
-      const std::string label = inSection == 0 ? std::string(1, hole) + Str(section) + "-top"
-                                : inSection == kSectionRows - 1
-                                    ? std::string(1, hole) + Str(section) + "-bottom"
-                                : r % 97 == 0 ? "Pin" + Str(r)
-                                              : "L" + Str(r);
-      text += ",'" + label + ",'" + Str(inSection * 2) + ",'" + Str(r * 2);
-    }
-    text += ",'" + (inSection % 5 == 0 ? Str(r * 2) : std::string()) + "\r\n";
-  }
-  return text;
-}
-
-void ImportModel(ScriptedPlatform& platform) {
-  const auto path = std::filesystem::temp_directory_path() / "ostraline-bench-model_20110305.csv";
-  std::ofstream(path, std::ios::binary) << ModelFile();
-  platform.QueueFile(path.string());
-  frmMain->Command1_Click();
-}
 
 // Thin layers every 30 cm, merged as the import leaves them: ordinary
 // layers, tephras and voids in turn, on all four bore holes.
@@ -111,21 +79,14 @@ void LoadAgeModel() {
 class CoreView : public benchmark::Fixture {
  public:
   void SetUp(const benchmark::State&) override {
-    SetPlatform(&platform_);
-    ImportModel(platform_);
+    ImportSyntheticModel(platform_, kRows, kSectionRows);
     LoadEventLayers();
     LoadAgeModel();
     frmMain->mnuShowTiePoints.Checked = true;
     frmMain->mnuShowLabCodes.Checked = true;
     for (int i = 0; i <= 4; ++i) frmMain->BoreHole(i).ScaleTop = 8000;
   }
-  void TearDown(const benchmark::State&) override {
-    FormSlot::ResetAll();
-    coreState = CoreState{};
-    displayState = DisplayState{};
-    eventState = EventState{};
-    SetPlatform(nullptr);
-  }
+  void TearDown(const benchmark::State&) override { EndBenchProgram(); }
 
  private:
   ScriptedPlatform platform_;

@@ -8,11 +8,8 @@
 #include <fstream>
 #include <memory>
 
-#include "core/project_state.h"
-#include "display/display_state.h"
-#include "display/form.h"
-#include "events/batch_state.h"
-#include "events/event_state.h"
+#include "core/fresh_program.h"
+#include "display/platform.h"
 
 namespace ostraline::fuzz {
 namespace {
@@ -53,11 +50,7 @@ ScriptedPlatform& ResetProgram() {
   auto fresh = std::make_unique<ScriptedPlatform>();
   SetPlatform(fresh.get());
   platform = std::move(fresh);
-  FormSlot::ResetAll();
-  coreState = CoreState{};
-  displayState = DisplayState{};
-  eventState = EventState{};
-  batchState = BatchState{};
+  ResetProgramState();
   return *platform;
 }
 

@@ -1,20 +1,11 @@
 #include "support/fresh_program.h"
 
-#include "core/project_state.h"
-#include "display/display_state.h"
+#include "core/fresh_program.h"
 #include "display/form.h"
-#include "events/batch_state.h"
-#include "events/event_state.h"
 
 namespace ostraline {
 
-void ResetProgram() {
-  FormSlot::ResetAll();
-  coreState = CoreState{};
-  displayState = DisplayState{};
-  eventState = EventState{};
-  batchState = BatchState{};
-}
+void ResetProgram() { ResetProgramState(); }
 
 void FreshProgram::SetUp() {
   SetPlatform(&platform);

@@ -1,0 +1,48 @@
+// The import of a correlation model of the largest size a file may hold, and
+// the search of the four bore holes at one target, as every typed depth runs it.
+#include <benchmark/benchmark.h>
+
+#include "bench/synthetic_project.h"
+#include "core/depth_conversions.h"
+#include "core/project_state.h"
+#include "display/display_state.h"
+#include "display/frm_main.h"
+#include "display/scripted_platform.h"
+
+namespace ostraline {
+namespace {
+
+// 5000 rows in sections of 83: about 60 sections in each bore hole.
+constexpr int kRows = 5000;
+constexpr int kSectionRows = 83;
+
+void ImportModel(benchmark::State& state) {
+  for (auto _ : state) {
+    ScriptedPlatform platform;
+    ImportSyntheticModel(platform, kRows, kSectionRows);
+    if (LastRow != kRows || !platform.messages.empty()) {
+      state.SkipWithError(platform.messages.empty() ? "the import failed" : platform.messages[0].text.c_str());
+    }
+    EndBenchProgram();
+  }
+}
+BENCHMARK(ImportModel)->Unit(benchmark::kMillisecond);
+
+void GetPspOfFourHoles(benchmark::State& state) {
+  ScriptedPlatform platform;
+  ImportSyntheticModel(platform, kRows, kSectionRows);
+  const Single target = 8123.4f;  // deep in the core
+  for (int hole = 1; hole <= 4; ++hole) {
+    frmMain->BoreHole(hole).ScaleTop = target - static_cast<Single>(ViewSpan) / 2;
+  }
+  for (auto _ : state) {
+    for (int hole = 1; hole <= 4; ++hole) GetPSP(hole, target);
+    benchmark::DoNotOptimize(TargetPSP);
+  }
+  if (TargetPSP < 0) state.SkipWithError("the target was not found");
+  EndBenchProgram();
+}
+BENCHMARK(GetPspOfFourHoles)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+}  // namespace ostraline

@@ -1,0 +1,19 @@
+#include "core/fresh_program.h"
+
+#include "core/project_state.h"
+#include "display/display_state.h"
+#include "display/form.h"
+#include "events/batch_state.h"
+#include "events/event_state.h"
+
+namespace ostraline {
+
+void ResetProgramState() {
+  FormSlot::ResetAll();
+  coreState = CoreState{};
+  displayState = DisplayState{};
+  eventState = EventState{};
+  batchState = BatchState{};
+}
+
+}  // namespace ostraline
