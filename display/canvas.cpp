@@ -108,9 +108,9 @@ void PictureBox::Cls() {
   if (ScreenObserver* screen = CurrentScreenObserver()) screen->SurfaceChanged(*this, false);
 }
 
-void PictureBox::Line(float x1, float y1, float x2, float y2, long colour) {
+DrawOp PictureBox::Segment(DrawKind kind, float x1, float y1, float x2, float y2, long colour) const {
   DrawOp op;
-  op.kind = DrawKind::Line;
+  op.kind = kind;
   op.x1 = ToTwipsX(x1);
   op.y1 = ToTwipsY(y1);
   op.x2 = ToTwipsX(x2);
@@ -121,26 +121,19 @@ void PictureBox::Line(float x1, float y1, float x2, float y2, long colour) {
   op.uy2 = y2;
   op.colour = colour;
   op.drawWidth = DrawWidth;
-  Record(std::move(op));
+  return op;
+}
+
+void PictureBox::Line(float x1, float y1, float x2, float y2, long colour) {
+  Record(Segment(DrawKind::Line, x1, y1, x2, y2, colour));
   CurrentX = x2;
   CurrentY = y2;
 }
 
 void PictureBox::LineBF(float x1, float y1, float x2, float y2, long colour) {
-  DrawOp op;
-  op.kind = DrawKind::Box;
-  op.x1 = ToTwipsX(x1);
-  op.y1 = ToTwipsY(y1);
-  op.x2 = ToTwipsX(x2);
-  op.y2 = ToTwipsY(y2);
-  op.ux1 = x1;
-  op.uy1 = y1;
-  op.ux2 = x2;
-  op.uy2 = y2;
-  op.colour = colour;
+  DrawOp op = Segment(DrawKind::Box, x1, y1, x2, y2, colour);
   op.filled = true;
   op.fillColour = colour;
-  op.drawWidth = DrawWidth;
   Record(std::move(op));
   CurrentX = x2;
   CurrentY = y2;

@@ -109,6 +109,8 @@ class PictureBox : public Control {
 
  private:
   void Record(DrawOp op);
+  // A line or a box between two points of the scale.
+  DrawOp Segment(DrawKind kind, float x1, float y1, float x2, float y2, long colour) const;
   float ScaleW() const;
   float ScaleH() const;
 
