@@ -1,5 +1,6 @@
 // Picture boxes: the recorded operations painted by the replayer, and the
 // mouse in the picture's own scale.
+#include <QMouseEvent>
 #include <QPainter>
 #include <QWidget>
 
@@ -35,6 +36,12 @@ class SurfaceWidget : public QWidget {
   void SetBox(const PictureBox* box) { box_ = box; }
 
  protected:
+  // The picture's own handlers have taken the pointer: it must not reach the
+  // form below, whose move erases the overlay and whose click cuts the window.
+  void mousePressEvent(QMouseEvent* event) override { event->accept(); }
+  void mouseMoveEvent(QMouseEvent* event) override { event->accept(); }
+  void mouseReleaseEvent(QMouseEvent* event) override { event->accept(); }
+
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
     if (box_ == nullptr) {

@@ -192,6 +192,24 @@ class FrmMain : public Form {
   void mnuSize_Click(int index);
   void mnuCopyDepth_Click();
 
+  // The pointer on the columns, the panels and the bare form.
+  void BoreHole_MouseMove(int index, int button, int shift, float x, float y);
+  void BoreHole_MouseDown(int index, int button, int shift, float x, float y);
+  void Picture1_MouseMove(int index, int button, int shift, float x, float y);
+  void Picture1_MouseDown(int index, int button, int shift, float x, float y);
+  void Form_MouseMove(int button, int shift, float x, float y) override;
+  void Form_MouseDown(int button, int shift, float x, float y) override;
+  // Label1 to Label10 alike.
+  void Label_MouseMove();
+  void Text6_MouseMove(int index);
+
+  // The span of the columns, the precision of the texts and the layout.
+  void mnuCM_Click(int index);
+  void mnuLink_Click();
+  void mnuDepPrec_Click(int index);
+  void mnuAgePrec_Click(int index);
+  void Form_Resize() override;
+
  private:
   void Layout();
   void BuildMenus();

@@ -70,6 +70,51 @@ void FrmMain::WireHandlers() {
     entry.Click = [this, index] { mnuSize_Click(index); };
   });
   mnuCopyDepth.Click = [this] { mnuCopyDepth_Click(); };
+
+  // The pointer on the columns and panels; leaving them over a label clears the overlay.
+  BoreHole.ForEach([this](PictureBox& column) {
+    const int index = column.Index();
+    column.MouseMove = [this, index](int b, int s, float x, float y) {
+      BoreHole_MouseMove(index, b, s, x, y);
+    };
+    column.MouseDown = [this, index](int b, int s, float x, float y) {
+      BoreHole_MouseDown(index, b, s, x, y);
+    };
+  });
+  Picture1.ForEach([this](PictureBox& panel) {
+    const int index = panel.Index();
+    panel.MouseMove = [this, index](int b, int s, float x, float y) {
+      Picture1_MouseMove(index, b, s, x, y);
+    };
+    panel.MouseDown = [this, index](int b, int s, float x, float y) {
+      Picture1_MouseDown(index, b, s, x, y);
+    };
+  });
+  Label1.ForEach([this](Label& label) {
+    label.MouseMove = [this](int, int, float, float) { Label_MouseMove(); };
+  });
+  for (Label* label : {&Label2, &Label3, &Label4, &Label5, &Label7, &Label8, &Label9, &Label10}) {
+    label->MouseMove = [this](int, int, float, float) { Label_MouseMove(); };
+  }
+  Text6.ForEach([this](TextBox& box) {
+    const int index = box.Index();
+    box.MouseMove = [this, index](int, int, float, float) { Text6_MouseMove(index); };
+  });
+
+  // The span of the columns and the precision of the texts.
+  mnuCM.ForEach([this](Menu& entry) {
+    const int span = entry.Index();
+    entry.Click = [this, span] { mnuCM_Click(span); };
+  });
+  mnuLink.Click = [this] { mnuLink_Click(); };
+  mnuDepPrec.ForEach([this](Menu& entry) {
+    const int digits = entry.Index();
+    entry.Click = [this, digits] { mnuDepPrec_Click(digits); };
+  });
+  mnuAgePrec.ForEach([this](Menu& entry) {
+    const int digits = entry.Index();
+    entry.Click = [this, digits] { mnuAgePrec_Click(digits); };
+  });
 }
 
 }  // namespace ostraline

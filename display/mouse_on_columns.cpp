@@ -1,0 +1,203 @@
+// Pointer moves and clicks on the columns. The Y of a mouse event is already
+// a depth on the selected scale, so nothing here converts positions.
+#include "display/mouse_on_columns.h"
+
+#include <cmath>
+
+#include "core/depth_conversions.h"
+#include "core/number_text.h"
+#include "core/project_state.h"
+#include "display/display_state.h"
+#include "display/frm_divider.h"
+#include "display/frm_main.h"
+#include "display/platform.h"
+#include "display/target_line.h"
+#include "events/age_lookup.h"
+#include "events/event_free_depth.h"
+#include "events/event_state.h"
+
+namespace ostraline {
+namespace {
+
+std::string Rounded(double depth) {
+  return Str(Round(depth, DepthPrecision));
+}
+
+// The hit tests compare squares: 0.2 % of the view span around a row or the centre.
+bool Near(double a, double b) {
+  const double tolerance = static_cast<double>(ViewSpan) * 0.002;
+  return (a - b) * (a - b) < tolerance * tolerance;
+}
+
+void ShowAgePoints(FrmMain& form, int index, Single x, Single y) {
+  for (long row = 1; row <= AgeModelCount; ++row) {
+    const double depth = Val(AgeModel(5, row));
+    if (!(std::abs(depth - y) < static_cast<double>(ViewSpan) * 0.003)) continue;
+    if (index == 0 || x < 1.0f) {
+      form.BoreHole(index).ToolTipText = AgeModel(1, row) + " (" + Rounded(depth) + " cm)";
+    }
+  }
+}
+
+void ShowRows(FrmMain& form, int index, Single y) {
+  for (long row = 1; row <= LastRow; ++row) {
+    const double depth = Val(ModelCell(DepthAxis, index, 2, row));
+    if (index != 0 && Near(depth, y)) {
+      form.BoreHole(index).ToolTipText =
+          ModelCell(0, index, 0, row) + " (" + ModelCell(0, index, 1, row) + " cm)";
+    }
+  }
+}
+
+void TakeBrackets(int index, Single y) {
+  GetPSP(index, y);
+  TieAbovePSP = CSng(Val(ModelCell(0, index, 1, TieRowAbove)));
+  ClickedPSP = TargetPSP;
+  TieBelowPSP = CSng(Val(ModelCell(0, index, 1, TieRowBelow)));
+  TieAboveLabel = ModelCell(0, index, 0, TieRowAbove);
+  TieBelowLabel = ModelCell(0, index, 0, TieRowBelow);
+}
+
+void ClickOnBoreHole(FrmMain& form, int index, int button, int shift, Single x, Single y) {
+  SuspendTrinity = button == 2;
+  ClickedHole = HoleName(index);
+  // Raw numbers whatever the scale.
+  if (CoreBottom(index) < y) {
+    DrivenBy = 0;
+    return;
+  }
+  if (button == 1) form.Combo1.Text = ClickedHole;
+  if (button == 2) {
+    SuspendTrinity = true;
+    form.Combo1.Text = HoleName(index);
+    MouseMoveProcedure(index, button, shift, x, y);
+    if (TieAbovePSP == TieBelowPSP) {  // nothing to divide between
+      DrivenBy = 0;
+      return;
+    }
+    if (!SuppressPopup) form.PopupMenu(form.mnuRB);
+  }
+  if (button == 1) {
+    SuspendTrinity = false;
+    if (ActionCount == 0) {
+      ActionCount = 9999;
+      form.Text1.Text = Rounded(y);
+      ActionCount = 0;
+    }
+    DrivenBy = 9;
+    if (form.Option2(1).Value) {
+      form.Text2.Text = Rounded(y);
+    } else if (form.Option2(2).Value) {
+      form.Text3.Text = Rounded(y);
+    } else if (form.Option2(3).Value) {
+      form.Text4.Text = Rounded(y);
+    }
+    frmDivider->Hide();
+  }
+  DrivenBy = 0;
+}
+
+void ClickOnComposite(FrmMain& form, int button, Single y) {
+  DrivenBy = 2;
+  if (button == 1) {
+    if (form.Option2(1).Value) {
+      form.Text2.Text = Rounded(y);
+    } else if (form.Option2(2).Value) {
+      form.Text2.Text = Rounded(EFDToCD(y).ToDouble());
+    } else if (form.Option2(3).Value) {
+      form.Text2.Text = Rounded(EFDToCD(GetEFDFromAge(y).ToSingle()).ToDouble());
+    }
+  }
+  if (button == 2 && !SuspendTrinity) {
+    SuspendTrinity = true;
+    form.PopupMenu(form.mnuTool);
+  }
+  DrivenBy = 0;
+}
+
+}  // namespace
+
+void MouseMoveProcedure(int Index, int /*Button*/, int /*Shift*/, Single X, Single Y) {
+  try {
+    FrmMain& form = *frmMain;
+    if (Y > CoreBottom(Index)) return;
+    ShowAgePoints(form, Index, X, Y);
+    if (Index == 5) return;
+    ShowRows(form, Index, Y);
+    if (Near(Y, form.BoreHole(1).ScaleTop + static_cast<double>(ViewSpan) / 2))
+      TakeBrackets(Index, Y);
+  } catch (const RuntimeFailure&) {
+    // The pointer moves on; the tool tip keeps what it had.
+  }
+}
+
+void MouseDownProcedure(int Index, int Button, int Shift, Single X, Single Y) {
+  try {
+    FrmMain& form = *frmMain;
+    if (DividerOpen) {
+      DrivenBy = 0;
+      return;
+    }
+    if (Index >= 1 && Index <= 4) {
+      ClickOnBoreHole(form, Index, Button, Shift, X, Y);
+    } else if (Index == 0) {
+      ClickOnComposite(form, Button, Y);
+    } else if (Index == 5 && Button == 2) {
+      form.PopupMenu(form.mnuRBdepth);
+    }
+  } catch (const RuntimeFailure&) {
+    // A click that finds no depth is dropped without a message.
+  }
+}
+
+void FrmMain::BoreHole_MouseMove(int index, int button, int shift, float x, float y) {
+  SuspendTrinity = false;
+  TargetLine(y);
+  Screen.SetMousePointer(index == 5 ? 0 : 2);
+  if (!DividerOpen) MouseMoveProcedure(index, button, shift, x, y);
+}
+
+void FrmMain::BoreHole_MouseDown(int index, int button, int shift, float x, float y) {
+  ActionCount = 0;
+  CopyHole = index;
+  if (index == 0 && button == 2) {
+    mnuCompCopy.Visible = true;
+    break98.Visible = true;
+  }
+  if (index == 5 && button == 1) {
+    ToggleCompositeColumn(*this);
+  } else if (index == 5 && button == 2) {
+    PopupMenu(mnuRBdepth);
+  } else {
+    DriveIndex = 5;
+    SuppressPopup = true;
+    if (button == 2) {
+      // The right click acts at the target, not at the pointer, to select
+      // the bore hole and the ties around the target.
+      Screen.SetMousePointer(0);
+      MouseDownProcedure(index, 2, shift, x, CSng(Val(Text2.Text)));
+    }
+    SuppressPopup = false;
+    MouseDownProcedure(index, button, shift, x, y);
+  }
+  mnuCompCopy.Visible = false;
+  break98.Visible = false;
+}
+
+// Panels have no proxy records yet, and a panel without one ignores the pointer.
+void FrmMain::Picture1_MouseMove(int /*index*/, int /*button*/, int /*shift*/, float /*x*/,
+                                 float /*y*/) {}
+
+void FrmMain::Picture1_MouseDown(int index, int button, int shift, float x, float y) {
+  if (button == 2) {
+    Screen.SetMousePointer(0);
+    PopupMenu(mnuPicRB(index));
+  } else if (Screen.MousePointer() != 0) {
+    // The cross shows a record under the pointer: the click acts as one on the composite column.
+    ActionCount = 0;
+    MouseDownProcedure(0, button, shift, x, y);
+  }
+  DriveIndex = 5;
+}
+
+}  // namespace ostraline
