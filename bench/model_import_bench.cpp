@@ -21,7 +21,8 @@ void ImportModel(benchmark::State& state) {
     ScriptedPlatform platform;
     ImportSyntheticModel(platform, kRows, kSectionRows);
     if (LastRow != kRows || !platform.messages.empty()) {
-      state.SkipWithError(platform.messages.empty() ? "the import failed" : platform.messages[0].text.c_str());
+      state.SkipWithError(platform.messages.empty() ? "the import failed"
+                                                    : platform.messages[0].text.c_str());
     }
     EndBenchProgram();
   }

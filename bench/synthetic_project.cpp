@@ -23,10 +23,10 @@ std::string SyntheticModelFile(int rows, int sectionRows) {
     text.append("'").append(splice[section % 5]);
     for (char hole : std::string("ABCD")) {
       const std::string name = std::string(1, hole) + "-" + Right("00" + Str(section), 3);
-      const std::string label = inSection == 0                 ? name + "-top"
+      const std::string label = inSection == 0                              ? name + "-top"
                                 : inSection == sectionRows - 1 || r == rows ? name + "-bottom"
-                                : r % 97 == 0                  ? "Pin" + Str(r)
-                                                               : "L" + Str(r);
+                                : r % 97 == 0                               ? "Pin" + Str(r)
+                                                                            : "L" + Str(r);
       text.append(",'").append(label).append(",'").append(Str(inSection * 2));
       text.append(",'").append(Str(r * 2));
     }

@@ -17,7 +17,8 @@ class CheckedInt {
   constexpr CheckedInt(T value) : value_(Check(static_cast<long long>(value))) {}
   // An Integer stored in a Long and back: the store checks.
   template <class Other>
-  constexpr CheckedInt(CheckedInt<Other> value) : value_(Check(static_cast<long long>(value.Get()))) {}
+  constexpr CheckedInt(CheckedInt<Other> value)
+      : value_(Check(static_cast<long long>(value.Get()))) {}
 
   constexpr operator Rep() const { return value_; }
   constexpr Rep Get() const { return value_; }
@@ -35,9 +36,13 @@ class CheckedInt {
     return old;
   }
   template <std::integral T>
-  CheckedInt& operator+=(T d) { return *this = static_cast<long long>(value_) + d; }
+  CheckedInt& operator+=(T d) {
+    return *this = static_cast<long long>(value_) + d;
+  }
   template <std::integral T>
-  CheckedInt& operator-=(T d) { return *this = static_cast<long long>(value_) - d; }
+  CheckedInt& operator-=(T d) {
+    return *this = static_cast<long long>(value_) - d;
+  }
   CheckedInt& operator+=(CheckedInt d) { return *this = static_cast<long long>(value_) + d.value_; }
   CheckedInt& operator-=(CheckedInt d) { return *this = static_cast<long long>(value_) - d.value_; }
 

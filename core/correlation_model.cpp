@@ -29,7 +29,9 @@ void ReadModelRow(FieldReader& file, long row, bool longLayout, bool spliceAlrea
 }
 
 // Every cell carries one prefix character; a cell of length 0 has none to drop.
-std::string DropPrefix(const std::string& cell) { return Right(cell, Len(cell) - 1); }
+std::string DropPrefix(const std::string& cell) {
+  return Right(cell, Len(cell) - 1);
+}
 
 bool StartsWith(const std::string& text, const char* head) {
   return Left(text, Len(head)) == head;
@@ -90,7 +92,8 @@ void ReadModelFile(FrmMain& form, FieldReader& file) {
   for (long r = 0; r <= LastRow; ++r) {
     TieCell(0, r) = Trim(TieCell(0, r));
     for (int hole = 1; hole <= 4; ++hole) {
-      for (int item = 0; item <= 2; ++item) ModelCell(0, hole, item, r) = Trim(ModelCell(0, hole, item, r));
+      for (int item = 0; item <= 2; ++item)
+        ModelCell(0, hole, item, r) = Trim(ModelCell(0, hole, item, r));
     }
     TieCell(1, r) = Trim(TieCell(1, r));
   }
@@ -164,11 +167,11 @@ void SweepModelDepths(FrmMain& form) {
   SectionBottomRow.ReDimPreserve(largest);
   DeepestBottom = 0;
   for (int hole = 1; hole <= 4; ++hole) {
-    CoreBottom(hole) =
-        CSng(Val(ModelCell(1, hole, 2, SectionBottomRow(hole, SectionCount(hole)))));
+    CoreBottom(hole) = CSng(Val(ModelCell(1, hole, 2, SectionBottomRow(hole, SectionCount(hole)))));
   }
   for (int hole = 1; hole <= 4; ++hole) {
-    if (CoreBottom(hole) != 9999 && CoreBottom(hole) > DeepestBottom) DeepestBottom = CoreBottom(hole);
+    if (CoreBottom(hole) != 9999 && CoreBottom(hole) > DeepestBottom)
+      DeepestBottom = CoreBottom(hole);
   }
   form.Slider1.Max = static_cast<long>(Round(DeepestBottom - 0.5, 0));
 }

@@ -10,8 +10,12 @@
 namespace ostraline {
 namespace {
 
-double Psp(int hole, long row) { return CDbl(ModelCell(0, hole, 1, row)); }
-double Cd(long row) { return CDbl(TieCell(1, row)); }
+double Psp(int hole, long row) {
+  return CDbl(ModelCell(0, hole, 1, row));
+}
+double Cd(long row) {
+  return CDbl(TieCell(1, row));
+}
 
 // The section's rows with a PSP go to the divider's two lists and to
 // SectionTieList; returns how many rows were used.
@@ -113,7 +117,8 @@ void GetPSP(int hole, Single target) {
         const double e = Val(ModelCell(0, hole, 1, r)) - Val(ModelCell(0, hole, 1, lastTie));
         if (form.Option2(1).Value && CSng(Cd(lastTie) + e) > target) {
           found = r;
-        } else if (form.Option2(0).Value && CSng(CDbl(ModelCell(0, hole, 2, lastTie)) + e) > target) {
+        } else if (form.Option2(0).Value &&
+                   CSng(CDbl(ModelCell(0, hole, 2, lastTie)) + e) > target) {
           found = r;
         }
       }
@@ -133,8 +138,8 @@ void GetPSP(int hole, Single target) {
           TieRowAbove = TieRowBelow;
           TieRowBelow = static_cast<int>(r);
         }
-        const bool good = TieCell(1, r) != "9999" && ModelCell(0, hole, 2, r) != "9999" &&
-                          CSng(Cd(r)) > target;
+        const bool good =
+            TieCell(1, r) != "9999" && ModelCell(0, hole, 2, r) != "9999" && CSng(Cd(r)) > target;
         if (good && TieRowAbove > 0) break;
         if (composite && r >= found) break;
       }

@@ -39,23 +39,31 @@ void FrmMain::Text3_GotFocus() {
   PointLine2At(*this, Text3);
 }
 
-void FrmMain::Text1_KeyPress(int&) { ActionCount = 0; }
+void FrmMain::Text1_KeyPress(int&) {
+  ActionCount = 0;
+}
 
 void FrmMain::Text2_KeyDown(int&, int) {
   ActionCount = 0;
   DrivenBy = 2;
 }
 
-void FrmMain::Text3_KeyDown(int&, int) { EfdEntryActive = true; }
+void FrmMain::Text3_KeyDown(int&, int) {
+  EfdEntryActive = true;
+}
 
 void FrmMain::Text3_KeyPress(int&) {
   ActionCount = 0;
   EfdEntryActive = true;
 }
 
-void FrmMain::Text3_MouseDown() { EfdEntryActive = true; }
+void FrmMain::Text3_MouseDown() {
+  EfdEntryActive = true;
+}
 
-void FrmMain::Text4_KeyPress(int&) { ActionCount = 0; }
+void FrmMain::Text4_KeyPress(int&) {
+  ActionCount = 0;
+}
 
 void FrmMain::Slider1_Scroll() {
   DrivenBy = 2;

@@ -4,14 +4,22 @@ namespace ostraline {
 
 const char* FailureName(FailureKind kind) {
   switch (kind) {
-    case FailureKind::SubscriptOutOfRange: return "Subscript out of range";
-    case FailureKind::TypeMismatch: return "Type mismatch";
-    case FailureKind::DivisionByZero: return "Division by zero";
-    case FailureKind::Overflow: return "Overflow";
-    case FailureKind::InputPastEnd: return "Input past end of file";
-    case FailureKind::FileNotFound: return "File not found";
-    case FailureKind::Cancelled: return "Cancel was selected";
-    case FailureKind::InvalidProcedureCall: return "Invalid procedure call or argument";
+    case FailureKind::SubscriptOutOfRange:
+      return "Subscript out of range";
+    case FailureKind::TypeMismatch:
+      return "Type mismatch";
+    case FailureKind::DivisionByZero:
+      return "Division by zero";
+    case FailureKind::Overflow:
+      return "Overflow";
+    case FailureKind::InputPastEnd:
+      return "Input past end of file";
+    case FailureKind::FileNotFound:
+      return "File not found";
+    case FailureKind::Cancelled:
+      return "Cancel was selected";
+    case FailureKind::InvalidProcedureCall:
+      return "Invalid procedure call or argument";
   }
   return "Unknown failure";
 }
@@ -22,6 +30,8 @@ RuntimeFailure::RuntimeFailure(FailureKind kind, std::string detail)
   if (!detail_.empty()) message_ += ": " + detail_;
 }
 
-void Fail(FailureKind kind, std::string detail) { throw RuntimeFailure(kind, std::move(detail)); }
+void Fail(FailureKind kind, std::string detail) {
+  throw RuntimeFailure(kind, std::move(detail));
+}
 
 }  // namespace ostraline

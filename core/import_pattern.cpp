@@ -20,6 +20,8 @@ void ResetProgress(FrmMain& form) {
   Screen.SetMousePointer(0);
 }
 
-void ShowFormatError() { MsgBox("File format error.", MsgButtons::Ok, "Error", MsgIcon::Exclamation); }
+void ShowFormatError() {
+  MsgBox("File format error.", MsgButtons::Ok, "Error", MsgIcon::Exclamation);
+}
 
 }  // namespace ostraline

@@ -21,9 +21,15 @@ float CSng(double value);
 std::string Str(float value);
 std::string Str(double value);
 std::string Str(long long value);
-inline std::string Str(int value) { return Str(static_cast<long long>(value)); }
-inline std::string Str(Integer value) { return Str(static_cast<long long>(value.Get())); }
-inline std::string Str(Long value) { return Str(static_cast<long long>(value.Get())); }
+inline std::string Str(int value) {
+  return Str(static_cast<long long>(value));
+}
+inline std::string Str(Integer value) {
+  return Str(static_cast<long long>(value.Get()));
+}
+inline std::string Str(Long value) {
+  return Str(static_cast<long long>(value.Get()));
+}
 
 // A number as Print writes it on a picture: a leading blank for the sign
 // position of a positive number, and a trailing blank.

@@ -38,7 +38,8 @@ void OpenFormForWork(FrmMain& form) {
   form.Command2.Enabled = true;
   form.Command3.Enabled = true;
   form.Command3.SetFocus();
-  for (Menu* menu : {&form.mnuRange, &form.mnuFont, &form.mnuTool, &form.mnuInfo, &form.mnuPrecision}) {
+  for (Menu* menu :
+       {&form.mnuRange, &form.mnuFont, &form.mnuTool, &form.mnuInfo, &form.mnuPrecision}) {
     menu->Enabled = true;
   }
 

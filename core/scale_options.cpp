@@ -24,7 +24,8 @@ void PlaceAgeRowsAnew(AgeTable& table, long rows) {
     for (int h = 1; h <= 4; ++h) {
       if (text(2, row) == HoleName(h) || UCase(text(2, row)) == UCase(HoleName(h))) hole = h;
     }
-    if (hole == 0 || text(2, row) == "---" || text(3, row) == "---" || text(4, row) == "---") continue;
+    if (hole == 0 || text(2, row) == "---" || text(3, row) == "---" || text(4, row) == "---")
+      continue;
     const Variant composite = CompositeFromTrinity(hole, SectionOrdinalByName(hole, text(3, row)),
                                                    CSng(Val(text(4, row))));
     if (composite.ToDouble() != 9999) table(5, row) = Str(composite.ToSingle());

@@ -38,7 +38,9 @@ void EnableBoreHoleMenus(FrmMain& form, double target) {
 }
 
 // The section name that GetPSP left in the divider's caption.
-std::string DividerSectionName() { return Mid(frmDivider->Label5.Caption.Get(), 3); }
+std::string DividerSectionName() {
+  return Mid(frmDivider->Label5.Caption.Get(), 3);
+}
 
 }  // namespace
 

@@ -107,9 +107,17 @@ void FrmMain::Combo1_Click() {
   Combo5.Text = SectionNameOfCombos(*this);
 }
 
-void FrmMain::Combo2_Change() { SectionPicked(*this, false); }
-void FrmMain::Combo2_Click() { SectionPicked(*this, true); }
-void FrmMain::Combo5_Change() { SelectSectionByName(*this, false); }
-void FrmMain::Combo5_Click() { SelectSectionByName(*this, true); }
+void FrmMain::Combo2_Change() {
+  SectionPicked(*this, false);
+}
+void FrmMain::Combo2_Click() {
+  SectionPicked(*this, true);
+}
+void FrmMain::Combo5_Change() {
+  SelectSectionByName(*this, false);
+}
+void FrmMain::Combo5_Click() {
+  SelectSectionByName(*this, true);
+}
 
 }  // namespace ostraline

@@ -40,9 +40,9 @@ void GetCompositDepth() {
   for (int h = 1; h <= 4; ++h) {
     if (HoleName(h) == form.Combo1.Text) hole = h;
   }
-  const Single composite =
-      CompositeFromTrinity(hole, static_cast<int>(Val(form.Combo2.Text)), CSng(Val(form.Text1.Text)))
-          .ToSingle();
+  const Single composite = CompositeFromTrinity(hole, static_cast<int>(Val(form.Combo2.Text)),
+                                                CSng(Val(form.Text1.Text)))
+                               .ToSingle();
   // The value goes through its text, at a Single's digits.
   form.Label1(8).Caption = Str(Round(Val(Str(composite)), DepthPrecision));
   form.Text2.Text = form.Label1(8).Caption.Get();

@@ -54,7 +54,8 @@ std::string SampleProjectFolder(const std::string& programPath) {
 bool ImportSampleProject(Shell& shell, const std::string& folderPath) {
   const QDir folder(QString::fromStdString(folderPath));
   std::deque<std::string> files;
-  for (const char* stem : {"correlation_model", "event_layers", "age_depth_model", "varve_counts"}) {
+  for (const char* stem :
+       {"correlation_model", "event_layers", "age_depth_model", "varve_counts"}) {
     const std::string file = FileStartingWith(folder, stem);
     if (file.empty()) return false;
     files.push_back(file);

@@ -19,8 +19,12 @@ float PictureBox::InnerHeight() const {
   return std::max(0.0f, Height.Get() - (BorderStyle.Get() == 1 ? 60.0f : 0.0f));
 }
 
-float PictureBox::ScaleW() const { return userScale_ ? ScaleWidth.Get() : InnerWidth(); }
-float PictureBox::ScaleH() const { return userScale_ ? ScaleHeight.Get() : InnerHeight(); }
+float PictureBox::ScaleW() const {
+  return userScale_ ? ScaleWidth.Get() : InnerWidth();
+}
+float PictureBox::ScaleH() const {
+  return userScale_ ? ScaleHeight.Get() : InnerHeight();
+}
 
 float PictureBox::ToTwipsX(float x) const {
   const float w = ScaleW();
@@ -108,7 +112,8 @@ void PictureBox::Cls() {
   if (ScreenObserver* screen = CurrentScreenObserver()) screen->SurfaceChanged(*this, false);
 }
 
-DrawOp PictureBox::Segment(DrawKind kind, float x1, float y1, float x2, float y2, long colour) const {
+DrawOp PictureBox::Segment(DrawKind kind, float x1, float y1, float x2, float y2,
+                           long colour) const {
   DrawOp op;
   op.kind = kind;
   op.x1 = ToTwipsX(x1);
@@ -175,9 +180,15 @@ void PictureBox::Print(const std::string& text) {
   CurrentY += inner == 0 ? 0 : advance * ScaleH() / inner;
 }
 
-void PictureBox::Print(float number) { Print(PrintedNumber(Str(number))); }
-void PictureBox::Print(double number) { Print(PrintedNumber(Str(number))); }
-void PictureBox::Print(int number) { Print(PrintedNumber(Str(number))); }
+void PictureBox::Print(float number) {
+  Print(PrintedNumber(Str(number)));
+}
+void PictureBox::Print(double number) {
+  Print(PrintedNumber(Str(number)));
+}
+void PictureBox::Print(int number) {
+  Print(PrintedNumber(Str(number)));
+}
 
 void PictureBox::Refresh() {
   if (ScreenObserver* screen = CurrentScreenObserver()) screen->SurfaceChanged(*this, true);

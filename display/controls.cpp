@@ -8,7 +8,9 @@ namespace {
 Control* g_focus = nullptr;
 }
 
-Control* FocusedControl() { return g_focus; }
+Control* FocusedControl() {
+  return g_focus;
+}
 void DropFocusOf(const Form& form) {
   if (g_focus != nullptr && &g_focus->Parent() == &form) g_focus = nullptr;
 }
@@ -35,10 +37,13 @@ void Control::Place(float left, float top, float width, float height) {
   Written("Width", true);
 }
 
-bool Control::HasFocus() const { return g_focus == this; }
+bool Control::HasFocus() const {
+  return g_focus == this;
+}
 
 void Control::SetFocus() {
-  if (!Enabled.Get() || !Visible.Get()) Fail(FailureKind::InvalidProcedureCall, "SetFocus " + FullName());
+  if (!Enabled.Get() || !Visible.Get())
+    Fail(FailureKind::InvalidProcedureCall, "SetFocus " + FullName());
   if (g_focus == this) return;
   Control* old = g_focus;
   g_focus = this;
@@ -49,7 +54,8 @@ void Control::SetFocus() {
 
 void Control::PropertyWritten(std::string_view name, bool changed) {
   if (changed) {
-    if (ScreenObserver* screen = CurrentScreenObserver()) screen->ControlPropertyChanged(*this, name);
+    if (ScreenObserver* screen = CurrentScreenObserver())
+      screen->ControlPropertyChanged(*this, name);
   }
   Written(name, changed);
 }
@@ -68,7 +74,8 @@ void ComboBox::Written(std::string_view name, bool changed) {
 
 void ComboBox::AddItem(const std::string& item) {
   items_.push_back(item);
-  if (ScreenObserver* screen = CurrentScreenObserver()) screen->ControlPropertyChanged(*this, "List");
+  if (ScreenObserver* screen = CurrentScreenObserver())
+    screen->ControlPropertyChanged(*this, "List");
 }
 
 void ComboBox::Clear() {
@@ -81,7 +88,8 @@ void ComboBox::Clear() {
 }
 
 void ComboBox::UserPick(long listIndex) {
-  if (listIndex < 0 || listIndex >= ListCount()) Fail(FailureKind::InvalidProcedureCall, "ListIndex");
+  if (listIndex < 0 || listIndex >= ListCount())
+    Fail(FailureKind::InvalidProcedureCall, "ListIndex");
   // A pick from the list runs Click alone; Change is for typing and for writes from code.
   const std::string& item = items_[static_cast<std::size_t>(listIndex)];
   if (Text.Get() != item) {

@@ -37,11 +37,18 @@ enum class ControlKind {
 
 // Colours are held as one Long: red + green * 256 + blue * 65536.
 constexpr long RGB(int red, int green, int blue) {
-  return static_cast<long>(red) + static_cast<long>(green) * 256L + static_cast<long>(blue) * 65536L;
+  return static_cast<long>(red) + static_cast<long>(green) * 256L +
+         static_cast<long>(blue) * 65536L;
 }
-constexpr int RedOf(long colour) { return static_cast<int>(colour & 0xFF); }
-constexpr int GreenOf(long colour) { return static_cast<int>((colour >> 8) & 0xFF); }
-constexpr int BlueOf(long colour) { return static_cast<int>((colour >> 16) & 0xFF); }
+constexpr int RedOf(long colour) {
+  return static_cast<int>(colour & 0xFF);
+}
+constexpr int GreenOf(long colour) {
+  return static_cast<int>((colour >> 8) & 0xFF);
+}
+constexpr int BlueOf(long colour) {
+  return static_cast<int>((colour >> 16) & 0xFF);
+}
 constexpr long kWhite = RGB(255, 255, 255);
 constexpr long kBlack = RGB(0, 0, 0);
 constexpr long kButtonFace = RGB(240, 240, 240);
@@ -111,7 +118,8 @@ class Control : public PropertyOwner {
 
 class Label : public Control {
  public:
-  Label(Form& form, std::string name, int index = -1) : Control(form, ControlKind::Label, std::move(name), index) {}
+  Label(Form& form, std::string name, int index = -1)
+      : Control(form, ControlKind::Label, std::move(name), index) {}
   Property<std::string> Caption{this, "Caption"};
   Property<int> Alignment{this, "Alignment"};  // 0 left, 1 right, 2 centre
   std::function<void()> Change;
@@ -192,7 +200,8 @@ class CheckBox : public Control {
 
 class Frame : public Control {
  public:
-  Frame(Form& form, std::string name, int index = -1) : Control(form, ControlKind::Frame, std::move(name), index) {}
+  Frame(Form& form, std::string name, int index = -1)
+      : Control(form, ControlKind::Frame, std::move(name), index) {}
   Property<std::string> Caption{this, "Caption"};
 };
 
@@ -211,7 +220,8 @@ class LineControl : public Control {
 
 class Shape : public Control {
  public:
-  Shape(Form& form, std::string name, int index = -1) : Control(form, ControlKind::Shape, std::move(name), index) {}
+  Shape(Form& form, std::string name, int index = -1)
+      : Control(form, ControlKind::Shape, std::move(name), index) {}
   Property<int> ShapeKind{this, "Shape", 0};  // 0 rectangle, 2 oval, 3 circle
   Property<long> FillColor{this, "FillColor", kBlack};
   Property<int> FillStyle{this, "FillStyle", 1};
@@ -228,7 +238,8 @@ class ImageControl : public Control {
 
 class Slider : public Control {
  public:
-  Slider(Form& form, std::string name, int index = -1) : Control(form, ControlKind::Slider, std::move(name), index) {}
+  Slider(Form& form, std::string name, int index = -1)
+      : Control(form, ControlKind::Slider, std::move(name), index) {}
   // Writing Value from code runs nothing.
   Property<long> Value{this, "Value", 0};
   Property<long> Min{this, "Min", 0};
@@ -250,7 +261,8 @@ class ProgressBar : public Control {
 
 class Timer : public Control {
  public:
-  Timer(Form& form, std::string name, int index = -1) : Control(form, ControlKind::Timer, std::move(name), index) {
+  Timer(Form& form, std::string name, int index = -1)
+      : Control(form, ControlKind::Timer, std::move(name), index) {
     Visible.SetQuietly(false);
   }
   Property<long> Interval{this, "Interval", 0};
@@ -261,7 +273,8 @@ class Timer : public Control {
 
 class Menu : public Control {
  public:
-  Menu(Form& form, std::string name, int index = -1) : Control(form, ControlKind::Menu, std::move(name), index) {}
+  Menu(Form& form, std::string name, int index = -1)
+      : Control(form, ControlKind::Menu, std::move(name), index) {}
   Property<std::string> Caption{this, "Caption"};
   // Writing Checked runs nothing.
   Property<bool> Checked{this, "Checked", false};
@@ -310,7 +323,8 @@ class ControlArray {
   }
   T& operator()(int index) const {
     auto it = items_.find(index);
-    if (it == items_.end()) Fail(FailureKind::SubscriptOutOfRange, name_ + "(" + std::to_string(index) + ")");
+    if (it == items_.end())
+      Fail(FailureKind::SubscriptOutOfRange, name_ + "(" + std::to_string(index) + ")");
     return *it->second;
   }
   bool Has(int index) const { return items_.count(index) != 0; }

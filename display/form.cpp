@@ -24,8 +24,12 @@ std::vector<const FormSlot*>& Unloading() {
 }
 }  // namespace
 
-ScreenObserver* CurrentScreenObserver() { return g_screen; }
-void SetScreenObserver(ScreenObserver* observer) { g_screen = observer; }
+ScreenObserver* CurrentScreenObserver() {
+  return g_screen;
+}
+void SetScreenObserver(ScreenObserver* observer) {
+  g_screen = observer;
+}
 
 Form::Form(std::string name, std::string caption) : name_(std::move(name)) {
   Caption.SetQuietly(caption);
@@ -54,7 +58,9 @@ void Form::Show() {
   Form_Activate();
 }
 
-void Form::Hide() { Visible = false; }
+void Form::Hide() {
+  Visible = false;
+}
 
 void Form::Refresh() {
   if (g_screen != nullptr) g_screen->FormPropertyChanged(*this, "Refresh");
@@ -114,9 +120,13 @@ FormSlot* FormSlot::Find(const std::string& name) {
   return nullptr;
 }
 
-const std::vector<FormSlot*>& FormSlot::All() { return Slots(); }
+const std::vector<FormSlot*>& FormSlot::All() {
+  return Slots();
+}
 
-void FormSlot::CollectUnloaded() { Graveyard().clear(); }
+void FormSlot::CollectUnloaded() {
+  Graveyard().clear();
+}
 
 void FormSlot::ResetAll() {
   for (FormSlot* slot : Slots()) {

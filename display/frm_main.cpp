@@ -12,11 +12,21 @@ constexpr const char* kSpanCaptions[] = {"20 cm", "50 cm", "1 m",  "2 m",       
                                          "10 m",  "20 m",  "50 m", "Whole core"};
 constexpr const char* kDigitCaptions[] = {"0", "0.1", "0.01", "0.001", "0.0001"};
 
-void SetCaption(CommandButton& c, const char* text) { c.Caption.SetQuietly(text); }
-void SetCaption(Label& c, const char* text) { c.Caption.SetQuietly(text); }
-void SetCaption(OptionButton& c, const char* text) { c.Caption.SetQuietly(text); }
-void SetCaption(Frame& c, const char* text) { c.Caption.SetQuietly(text); }
-void SetCaption(Menu& c, const char* text) { c.Caption.SetQuietly(text); }
+void SetCaption(CommandButton& c, const char* text) {
+  c.Caption.SetQuietly(text);
+}
+void SetCaption(Label& c, const char* text) {
+  c.Caption.SetQuietly(text);
+}
+void SetCaption(OptionButton& c, const char* text) {
+  c.Caption.SetQuietly(text);
+}
+void SetCaption(Frame& c, const char* text) {
+  c.Caption.SetQuietly(text);
+}
+void SetCaption(Menu& c, const char* text) {
+  c.Caption.SetQuietly(text);
+}
 
 }  // namespace
 
@@ -333,7 +343,8 @@ void FrmMain::BuildMenus() {
     mnuLine(p).Checked.SetQuietly(true);
     mnuMarker(p).Checked.SetQuietly(true);
     mnuHorizontalN(p).Checked.SetQuietly(true);
-    for (Menu* entry : {&mnuFlipH(p), &mnuLine(p), &mnuMarker(p), &mnuHorizontalN(p), &mnuSmooth(p)}) {
+    for (Menu* entry :
+         {&mnuFlipH(p), &mnuLine(p), &mnuMarker(p), &mnuHorizontalN(p), &mnuSmooth(p)}) {
       popup.Add(*entry);
     }
     for (Menu* entry : {&mnuFlat3_(p), &mnuFlat5_(p), &mnuFlat11_(p), &mnuFlat208_(p)}) {

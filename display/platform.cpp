@@ -12,11 +12,16 @@ ScriptedPlatform& DefaultPlatform() {
 }
 }  // namespace
 
-Platform& CurrentPlatform() { return g_platform != nullptr ? *g_platform : DefaultPlatform(); }
+Platform& CurrentPlatform() {
+  return g_platform != nullptr ? *g_platform : DefaultPlatform();
+}
 
-void SetPlatform(Platform* platform) { g_platform = platform; }
+void SetPlatform(Platform* platform) {
+  g_platform = platform;
+}
 
-MsgAnswer MsgBox(const std::string& text, MsgButtons buttons, const std::string& title, MsgIcon icon) {
+MsgAnswer MsgBox(const std::string& text, MsgButtons buttons, const std::string& title,
+                 MsgIcon icon) {
   return CurrentPlatform().MessageBox(text, title, icon, buttons);
 }
 

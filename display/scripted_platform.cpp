@@ -16,10 +16,11 @@ std::string ScriptedPlatform::SaveFileName(const FileDialogRequest& request) {
   return OpenFileName(request);
 }
 
-MsgAnswer ScriptedPlatform::MessageBox(const std::string& text, const std::string& title, MsgIcon icon,
-                                       MsgButtons buttons) {
-  MsgAnswer answer = buttons == MsgButtons::YesNo || buttons == MsgButtons::YesNoCancel ? MsgAnswer::Yes
-                                                                                      : MsgAnswer::Ok;
+MsgAnswer ScriptedPlatform::MessageBox(const std::string& text, const std::string& title,
+                                       MsgIcon icon, MsgButtons buttons) {
+  MsgAnswer answer = buttons == MsgButtons::YesNo || buttons == MsgButtons::YesNoCancel
+                         ? MsgAnswer::Yes
+                         : MsgAnswer::Ok;
   if (!answers_.empty()) {
     answer = answers_.front();
     answers_.pop_front();

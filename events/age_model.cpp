@@ -4,10 +4,10 @@
 #include <string>
 
 #include "core/depth_conversions.h"
-#include "core/import_pattern.h"
 #include "core/field_reader.h"
 #include "core/file_names.h"
 #include "core/hole_lookup.h"
+#include "core/import_pattern.h"
 #include "core/number_text.h"
 #include "core/project_state.h"
 #include "display/core_columns.h"

@@ -4,8 +4,8 @@
 #include <string>
 
 #include "core/failure.h"
-#include "core/import_pattern.h"
 #include "core/field_reader.h"
+#include "core/import_pattern.h"
 #include "core/number_text.h"
 #include "core/project_state.h"
 #include "display/frm_conversion.h"

@@ -1,7 +1,7 @@
 // "Convert and Save": the chosen scales of every row of the data file into a
 // new comma-separated file.
-#include "core/import_pattern.h"
 #include "core/failure.h"
+#include "core/import_pattern.h"
 #include "core/project_state.h"
 #include "display/frm_conversion.h"
 #include "display/frm_main.h"

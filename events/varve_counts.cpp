@@ -5,8 +5,8 @@
 #include <algorithm>
 
 #include "core/field_reader.h"
-#include "core/import_pattern.h"
 #include "core/file_names.h"
+#include "core/import_pattern.h"
 #include "core/project_state.h"
 #include "display/core_columns.h"
 #include "display/frm_main.h"

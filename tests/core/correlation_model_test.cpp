@@ -22,7 +22,8 @@ class CorrelationModelImport : public FreshProgram {
   }
   bool FailedWithFormatError() const {
     return platform.messages.size() == 1 && platform.messages[0].text == "File format error." &&
-           platform.messages[0].title == "Error" && platform.messages[0].icon == MsgIcon::Exclamation;
+           platform.messages[0].title == "Error" &&
+           platform.messages[0].icon == MsgIcon::Exclamation;
   }
 
   std::vector<ModelRow> TwoSections() {
@@ -64,8 +65,8 @@ TEST_F(CorrelationModelImport, CellsLoseTheirPrefixStarsAndBlanks) {
   EXPECT_EQ(ModelCell(0, 1, 1, 3), "9999");
   EXPECT_EQ(ModelCell(0, 1, 2, 2), "9999");
   EXPECT_EQ(ModelCell(0, 2, 0, 2), "9999");  // "*" of bore hole B
-  EXPECT_EQ(TieCell(1, 4), "9999");           // "---"
-  EXPECT_EQ(TieCell(1, 1), "9999");           // empty
+  EXPECT_EQ(TieCell(1, 4), "9999");          // "---"
+  EXPECT_EQ(TieCell(1, 1), "9999");          // empty
 }
 
 TEST_F(CorrelationModelImport, HeadersNameTheBoreHoles) {
@@ -120,8 +121,9 @@ TEST_F(CorrelationModelImport, BadFilesEndInTheMessageAndLeaveTheButton) {
 
   // A cell of length 0 has no prefix to drop.
   platform.messages.clear();
-  ImportText("'S,'A (A),'P,'D,'B (B),'P,'D,'C (C),'P,'D,'D (D),'P,'D,'CD\r\n"
-             "'A,'A-01-top,,'1,'*,'*,'*,'*,'*,'*,'*,'*,'*,'1\r\n");
+  ImportText(
+      "'S,'A (A),'P,'D,'B (B),'P,'D,'C (C),'P,'D,'D (D),'P,'D,'CD\r\n"
+      "'A,'A-01-top,,'1,'*,'*,'*,'*,'*,'*,'*,'*,'*,'1\r\n");
   EXPECT_TRUE(FailedWithFormatError());
 
   // A PSP that is no number fails the depth sweep.

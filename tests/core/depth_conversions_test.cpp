@@ -17,19 +17,19 @@ namespace {
 // the core. Bore hole B has sections but no positions.
 std::vector<ModelRow> ExampleModel() {
   std::vector<ModelRow> rows{DefaultHeader(),
-          RowA("A-01-top", "0", "100", ""),
-          RowA("L1", "10", "110", "110"),
-          RowA("L2", "50", "150", "160"),
-          RowA("A-01-bottom", "80", "180", ""),
-          RowA("A-02-top", "0", "190", "200"),
-          RowA("A-02-bottom", "40", "230", ""),
-          RowA("A-03-top", "0", "240", ""),
-          RowA("L3", "10", "250", "300"),
-          RowA("L4", "10", "250", "320"),
-          RowA("A-03-bottom", "30", "270", ""),
-          RowA("A-04-top", "0", "280", "330"),
-          RowA("L5", "20", "300", "350"),
-          RowA("A-04-bottom", "40", "320", "")};
+                             RowA("A-01-top", "0", "100", ""),
+                             RowA("L1", "10", "110", "110"),
+                             RowA("L2", "50", "150", "160"),
+                             RowA("A-01-bottom", "80", "180", ""),
+                             RowA("A-02-top", "0", "190", "200"),
+                             RowA("A-02-bottom", "40", "230", ""),
+                             RowA("A-03-top", "0", "240", ""),
+                             RowA("L3", "10", "250", "300"),
+                             RowA("L4", "10", "250", "320"),
+                             RowA("A-03-bottom", "30", "270", ""),
+                             RowA("A-04-top", "0", "280", "330"),
+                             RowA("L5", "20", "300", "350"),
+                             RowA("A-04-bottom", "40", "320", "")};
   rows[1].holes[3] = "B-01-top";
   rows[4].holes[3] = "B-01-bottom";
   return rows;
@@ -88,11 +88,11 @@ TEST_F(DepthConversions, ModelDepthsTakeTheTieOverTheComputedValue) {
   EXPECT_EQ(ModelCell(1, 1, 2, 2), "110");
   EXPECT_EQ(ModelCell(1, 1, 2, 4), "197.5");  // stretched on by the nearest pair's ratio
   EXPECT_EQ(ModelCell(1, 1, 1, 4), "80");
-  EXPECT_EQ(ModelCell(1, 2, 2, 4), "9999");  // bore hole B has no positions
+  EXPECT_EQ(ModelCell(1, 2, 2, 4), "9999");   // bore hole B has no positions
   EXPECT_EQ(ModelCell(1, 1, 2, 10), "9999");  // two ties with equal PSP
   EXPECT_EQ(CoreBottom(1), 370);
   EXPECT_EQ(CoreBottom(2), 9999);
-  EXPECT_EQ(CoreBottom(3), 0);     // no section: row 0's never filled cell
+  EXPECT_EQ(CoreBottom(3), 0);    // no section: row 0's never filled cell
   EXPECT_EQ(DeepestBottom, 370);  // bore holes of 9999 drop out
   EXPECT_EQ(frmMain->Slider1.Max.Get(), 370);
   // Bore hole B is not offered, C and D are (their bottoms read 0).

@@ -128,8 +128,9 @@ TEST_F(TargetHorizon, ClearedBoxAndTargetAboveEveryTie) {
 
 TEST_F(TargetHorizon, EfdTypedAtAnEventLayerSettles) {
   // Layers from 260 to 280 and 400 to 410 in composite depth.
-  platform.QueueFile(WriteTempFile("events.csv", EventListText({{"A", "01", "60", "80", "Turbidite"},
-                                                                {"A", "02", "50", "60", "Tephra X"}})));
+  platform.QueueFile(WriteTempFile(
+      "events.csv",
+      EventListText({{"A", "01", "60", "80", "Turbidite"}, {"A", "02", "50", "60", "Tephra X"}})));
   frmMain->Command3_Click();
   ASSERT_TRUE(platform.messages.empty());
   FrmMain& form = *frmMain;

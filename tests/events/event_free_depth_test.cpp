@@ -1,6 +1,6 @@
+#include "events/event_free_depth.h"
 #include "core/number_text.h"
 #include "core/project_state.h"
-#include "events/event_free_depth.h"
 #include "events/event_state.h"
 #include "support/fresh_program.h"
 

@@ -62,7 +62,7 @@ TEST_F(SampleProject, EventLayersAndTheirFreeDepths) {
   EXPECT_EQ(EventCount, 32);
   EXPECT_EQ(MergedEventCount, 29);
   EXPECT_EQ(EventListVersion, "20 Mar. 2025");
-  EXPECT_FLOAT_EQ(EventTop(1, 3), 331.0039f);   // two turbidites fused
+  EXPECT_FLOAT_EQ(EventTop(1, 3), 331.0039f);  // two turbidites fused
   EXPECT_FLOAT_EQ(EventBottom(1, 3), 336.4213f);
   EXPECT_EQ(CDToEFD(638.268235f).ToDouble(), 621.3);
   EXPECT_EQ(CDToEFD(1489.6f).ToDouble(), 1446.22);

@@ -5,7 +5,9 @@
 
 namespace ostraline {
 
-void ResetProgram() { ResetProgramState(); }
+void ResetProgram() {
+  ResetProgramState();
+}
 
 void FreshProgram::SetUp() {
   SetPlatform(&platform);

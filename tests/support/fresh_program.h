@@ -12,7 +12,9 @@ namespace ostraline {
 
 // Variants print as their text in failure messages.
 inline void PrintTo(const Variant& value, std::ostream* out) {
-  *out << (value.IsEmpty() ? "<empty>" : value.IsText() ? "\"" + value.ToText() + "\"" : value.ToText());
+  *out << (value.IsEmpty()  ? "<empty>"
+           : value.IsText() ? "\"" + value.ToText() + "\""
+                            : value.ToText());
 }
 
 // Drops every form and brings every subsystem's state to its defaults.

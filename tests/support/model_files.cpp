@@ -10,8 +10,8 @@ namespace ostraline {
 ModelRow DefaultHeader() {
   ModelRow row{"Splice", {}, "Composite depth"};
   for (char hole : std::string("ABCD")) {
-    row.holes.insert(row.holes.end(),
-                     {std::string("Bore hole ") + hole + " (" + hole + ")", "PSP", "Drilling depth"});
+    row.holes.insert(row.holes.end(), {std::string("Bore hole ") + hole + " (" + hole + ")", "PSP",
+                                       "Drilling depth"});
   }
   return row;
 }
@@ -30,7 +30,8 @@ std::string ModelText(const std::vector<ModelRow>& rows, bool longLayout) {
     text += "'" + row.splice;
     for (const std::string& cell : row.holes) text += ",'" + cell;
     text += ",'" + row.cd;
-    if (longLayout) text += r == 0 ? ",'Master kind,'Master hole,'Master section,'Master PSP" : ",'x,'x,'x,'x";
+    if (longLayout)
+      text += r == 0 ? ",'Master kind,'Master hole,'Master section,'Master PSP" : ",'x,'x,'x,'x";
     text += "\r\n";
   }
   return text;
@@ -67,7 +68,8 @@ std::vector<ModelRow> FourHoleModel() {
     for (char hole : std::string("ABCD")) {
       const std::string label = line.label[0] == 'L' ? std::string(line.label) + hole
                                                      : std::string(1, hole) + "-" + line.label;
-      row.holes.insert(row.holes.end(), {label, line.psp, std::to_string(line.drill + (hole - 'A') * 7)});
+      row.holes.insert(row.holes.end(),
+                       {label, line.psp, std::to_string(line.drill + (hole - 'A') * 7)});
     }
     rows.push_back(row);
   }
