@@ -4,6 +4,7 @@
 #include "core/depth_conversions.h"
 #include "core/number_text.h"
 #include "core/project_state.h"
+#include "display/frm_kx11.h"
 #include "display/frm_main.h"
 #include "display/platform.h"
 
@@ -62,6 +63,11 @@ void OpenFormForWork(FrmMain& form) {
     if (CoreBottom(hole) != 9999) form.Combo1.AddItem(HoleName(hole));
   }
   form.mnuCopyDepth.Enabled = true;
+
+  // The correlation assist's ruler, from the columns' scale as it stands now.
+  FrmKX11& ruler = *frmKX11;
+  ruler.Picture1.Height = form.BoreHole(0).ScaleHeight * 100 / form.BoreHole(0).Height;
+  ruler.Label2.Caption = Str(ruler.Picture1.Height.Get());
 
   form.ProgressBar1.Value = 0;
   form.ProgressBar1.Visible = false;

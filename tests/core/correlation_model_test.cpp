@@ -2,6 +2,7 @@
 #include <vector>
 
 #include "core/project_state.h"
+#include "display/frm_kx11.h"
 #include "display/frm_main.h"
 #include "support/fresh_program.h"
 #include "support/model_files.h"
@@ -87,6 +88,8 @@ TEST_F(CorrelationModelImport, HeadersNameTheBoreHoles) {
   EXPECT_EQ(frmMain->Caption.Get(), "Ostraline 7.7.4   [model_20110305]");
   EXPECT_EQ(ModelVersion, "05 Mar. 2011");
   EXPECT_FALSE(frmMain->Command1.Enabled);
+  // The correlation assist's ruler takes the columns' scale: 500 units over 8775 twips.
+  EXPECT_FLOAT_EQ(frmKX11->Picture1.Height, 500.0f * 100 / 8775);
 }
 
 TEST_F(CorrelationModelImport, SectionsAreCountedByTheirLabels) {
