@@ -113,12 +113,14 @@ Variant EfdFromAgeByVarves(Single age, long lower, long upper) {
   // The ages of the two rows as the forward lookup gives them.
   const Single ageLower = GetAgeFromEFD(CSng(Val(AgeModel(kEfd, lower)))).ToSingle();
   const Single ageUpper = GetAgeFromEFD(CSng(Val(AgeModel(kEfd, upper)))).ToSingle();
-  const Single depthLower = CellSingle(kDepth, lower);
-  const Single depthUpper = CellSingle(kDepth, upper);
-  const Single offset = VarveOffset(depthLower, depthUpper, age - ageLower, ageUpper - age);
-  const Variant efd = CDToEFD(depthLower + offset);
+  const Single offset = VarveOffset(CellSingle(kDepth, lower), CellSingle(kDepth, upper),
+                                    age - ageLower, ageUpper - age);
+  // The depth cells take part in the sums as doubles: the composite depth is
+  // narrowed to a single only where it is handed on.
+  const double depthLower = CellDouble(kDepth, lower);
+  const Variant efd = CDToEFD(CSng(depthLower + offset));
   // Here the errors go by depth, not by age.
-  ErrorsBetween(lower, upper, offset, static_cast<double>(depthUpper) - depthLower);
+  ErrorsBetween(lower, upper, offset, CellDouble(kDepth, upper) - depthLower);
   frmMain->ProgressBar1.Value = 0;
   frmMain->ProgressBar1.Visible = false;
   Screen.SetMousePointer(0);
@@ -215,7 +217,9 @@ Variant GetEFDFromAge(Single age) {
   const double ageLower = CellDouble(kAge, lower);
   const double part = static_cast<double>(age) - ageLower;
   const double whole = CellDouble(kAge, upper) - ageLower;
-  const double efd = efdLower + Divide(part * (static_cast<double>(efdUpper) - efdLower), whole);
+  // The two EFDs are singles, and so is their difference.
+  const Single efdSpan = efdUpper - efdLower;
+  const double efd = efdLower + Divide(part * efdSpan, whole);
   ErrorsBetween(lower, upper, part, whole);
   SayInterpolatedBy("(interpolated by EFD)");
   return efd;

@@ -1,4 +1,6 @@
 #include "events/age_lookup.h"
+
+#include "core/number_text.h"
 #include "core/project_state.h"
 #include "display/frm_main.h"
 #include "events/event_state.h"
@@ -93,6 +95,37 @@ TEST_F(AgeLookup, EqualErrorsShowOneSidedForm) {
   form.Text4.SetFocus();
   form.Text4.Text = "2500";
   EXPECT_EQ(form.Label8.Caption.Get(), "Error:  +/- 35");
+}
+
+// An operation between two singles is a single; a cell read as a double
+// makes it a double. Each case lies on a rounding edge of the printed digit.
+TEST_F(AgeLookup, OperandTypesDecideTheLastPrintedDigit) {
+  // The way back by EFD: E2 - E1 is a single difference of two singles, so
+  // 126.27 + 72 * (275.31 - 126.27) / 128 lands just on 210.105, not below.
+  ResetProgram();
+  ImportModelAndEvents(kNoLayer);
+  ImportAges({{"L-1", "---", "---", "---", "126.27", "10", "2312", "20", "C1", "cal BP", "-"},
+              {"L-2", "---", "---", "---", "275.31", "20", "2440", "30", "C1", "cal BP", "-"}});
+  EXPECT_EQ(Str(Round(GetEFDFromAge(2384).ToDouble(), 2)), "210.11");
+
+  // The way back by varve count: the sum reaches c = 30 * 850 / 1000 at the
+  // marker 520, so the offset is 513.7 - 498.6 between two single markers,
+  // and the composite depth 499.7055 + 15.100006 is summed with the cell as
+  // a double before it becomes a single: 514.80548 (a sum of singles would
+  // give 514.80554, printed 514.806).
+  ResetProgram();
+  ImportModelAndEvents(kNoLayer);
+  ImportAges({{"V-1", "---", "---", "---", "499.7055", "10", "1000", "20", "C1", "varve yr", "-"},
+              {"V-2", "---", "---", "---", "530", "20", "2000", "30", "C1", "varve yr", "-"}});
+  ImportVarves({{"498.6", "10"},
+                {"500", "20"},
+                {"513.7", "30"},
+                {"520", "40"},
+                {"530", "50"},
+                {"540", "60"}});
+  ASSERT_TRUE(platform.messages.empty()) << OnlyMessage();
+  DepthPrecision = 3;
+  EXPECT_EQ(Str(GetEFDFromAge(1850).ToDouble()), "514.805");
 }
 
 }  // namespace
