@@ -38,8 +38,9 @@ AgeCells AgeOfEfd(const Variant& efdCell) {
   AgeCells cells{CSng(Round(age, AgePrecision)), CSng(Round(AgeErrorPlus, AgePrecision)),
                  CSng(Round(AgeErrorMinus, AgePrecision)), Variant()};
   if (efd == 9999 || efd == -9999) {
-    // No rows were looked up: the unit column carries the missing EFD.
-    cells.unit = efd;
+    // No rows were looked up: the unit column carries the missing EFD's cell
+    // as it stands, text or number.
+    cells.unit = efdCell;
   } else if (AgeModel(9, AgeRowLower) == AgeModel(9, AgeRowUpper)) {
     cells.unit = AgeModel(9, AgeRowUpper);
   } else {

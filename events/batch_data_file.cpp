@@ -22,7 +22,10 @@ namespace {
 constexpr const char* kSamplesAddress = "https://www.ostraline.org/samples";
 
 // Two records of four fields, whatever the shape: a value file's header and
-// first three samples, or a position file's header and first row.
+// first three samples, or a position file's header and first row. They are
+// read as text, and so are a position file's further rows; a value file's
+// further rows go into variants, so that a value that reads as a number is
+// written back bare.
 using FirstRecords = std::array<std::string, 8>;
 
 // The second field of the second record is a number only in a value file;
@@ -76,8 +79,8 @@ void ReadValueFile(FrmMain& form, FieldReader& file, const FirstRecords& first) 
   while (!file.Eof()) {
     ++row;
     ValueTable.ReDimPreserve(row);
-    ValueTable(1, row) = file.ReadText();
-    ValueTable(2, row) = file.ReadText();
+    ValueTable(1, row) = file.ReadVariant();
+    ValueTable(2, row) = file.ReadVariant();
   }
   ValueRows = row;
   InputKind = ScaleOfHeader(ValueTable(2, 0).ToText());

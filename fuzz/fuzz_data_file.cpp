@@ -10,6 +10,7 @@
 #include <iterator>
 #include <string>
 
+#include "core/number_text.h"
 #include "display/frm_conversion.h"
 #include "display/frm_main.h"
 #include "events/batch_state.h"
@@ -41,7 +42,7 @@ long LineEnds(const std::string& text) {
 }
 
 // One line end for each row and the header, and those that quoted cells of
-// the file brought along.
+// the file brought along, wherever they are copied to.
 long ExpectedLineEnds() {
   long count = 0;
   if (FromKind == kScaleTrinity) {
@@ -51,8 +52,13 @@ long ExpectedLineEnds() {
     }
     return count + ConversionRows + 1;
   }
+  const bool ages = FromKind == kScaleAge || (ToMask & kScaleAge) != 0;
   for (long r = 0; r <= ValueRows; ++r) {
     for (int column = 1; column <= 2; ++column) count += LineEnds(ValueTable(column, r).ToText());
+    // A missing EFD's cell is copied as it stands into the unit column.
+    const Variant& efd = ValueTable(FromKind == kScaleEfd ? 2 : 3, r);
+    const float value = static_cast<float>(Val(efd.ToText()));
+    if (r > 0 && ages && (value == 9999 || value == -9999)) count += LineEnds(efd.ToText());
   }
   return count + ValueRows + 1;
 }

@@ -84,7 +84,7 @@ TEST_F(BatchConversion, PositionsGiveEveryTickedScale) {
                 "\"S2\",\"Bore hole A\",\"01\",\"46\",155,150,1200,12,22,\"cal BP\"\r\n"
                 "\"S3\",\"A\",\"02\",\"30\",240,230,2800,36,38,\"Hybrid unit\"\r\n"
                 "\"S4\",\"A\",\"01\",\"85\",9999,9999,9999,9999,9999,9999\r\n"
-                "\"S5\",\"A\",\"01\",\"9999\",9999,\"9999\",9999,9999,9999,9999\r\n"
+                "\"S5\",\"A\",\"01\",\"9999\",9999,\"9999\",9999,9999,9999,\"9999\"\r\n"
                 "\"S6\",\"X\",\"01\",\"10\",9999,9999,9999,9999,9999,9999\r\n");
   EXPECT_TRUE(platform.messages.empty());
   EXPECT_FALSE(frmConversion.IsLoaded());
@@ -134,26 +134,44 @@ TEST_F(BatchConversion, CompositeDepthValues) {
                                "\"C1\",\"135\",135,900,9,19,\"cal BP\"\r\n"
                                "\"C2\",\"155\",150,1200,12,22,\"cal BP\"\r\n"
                                "\"C3\",\"240\",230,2800,36,38,\"Hybrid unit\"\r\n"
-                               "\"C4\",\"9999\",\"9999\",9999,9999,9999,9999\r\n");
+                               "\"C4\",9999,9999,9999,9999,9999,9999\r\n");
   EXPECT_EQ(InputKind, kScaleComposite);
   EXPECT_EQ(ToMask, 14);
   // The EFD is written only beside the composite depth; without it, the age still comes from it.
-  EXPECT_EQ(
-      Convert(data, [] { Untick({kScaleEfd}); }),
-      "\"Sample\",\"Composite depth\"," + kAgeTitles +
-          "\r\n\"C1\",\"135\",900,9,19,\"cal BP\"\r\n\"C2\",\"155\",1200,12,22,\"cal BP\"\r\n"
-          "\"C3\",\"240\",2800,36,38,\"Hybrid unit\"\r\n\"C4\",\"9999\",9999,9999,9999,9999\r\n");
+  EXPECT_EQ(Convert(data, [] { Untick({kScaleEfd}); }),
+            "\"Sample\",\"Composite depth\"," + kAgeTitles +
+                "\r\n\"C1\",\"135\",900,9,19,\"cal BP\"\r\n\"C2\",\"155\",1200,12,22,\"cal BP\"\r\n"
+                "\"C3\",\"240\",2800,36,38,\"Hybrid unit\"\r\n\"C4\",9999,9999,9999,9999,9999\r\n");
   EXPECT_EQ(Convert(data, [] { Untick({kScaleAge}); }),
             "\"Sample\",\"Composite depth\"," + kEfdTitle +
                 "\r\n\"C1\",\"135\",135\r\n\"C2\",\"155\",150\r\n\"C3\",\"240\",230\r\n"
-                "\"C4\",\"9999\",\"9999\"\r\n");
+                "\"C4\",9999,9999\r\n");
   EXPECT_EQ(Convert(data,
                     [] {
                       Untick({kScaleEfd, kScaleAge});
                     }),
             "\"Sample\",\"Composite depth\"\r\n\"C1\",\"135\"\r\n\"C2\",\"155\"\r\n"
-            "\"C3\",\"240\"\r\n\"C4\",\"9999\"\r\n");
+            "\"C3\",\"240\"\r\n\"C4\",9999\r\n");
   EXPECT_TRUE(platform.messages.empty());
+}
+
+// The first three samples of a value file are read as text with the header;
+// from the fourth on a field that reads as a number is a number: written bare
+// and without the file's trailing zero, while a quoted field stays text. A
+// missing EFD's unit cell is that cell as it stands.
+TEST_F(BatchConversion, ValueCellsKeepTheTypeTheyWereReadWith) {
+  ImportAll();
+  const std::string data =
+      "Sample,Composite depth\r\nC1,135.0\r\nC2,9999\r\nC3,240\r\n7,155.50\r\n"
+      "C5,\"135.0\"\r\nC6,9999\r\n";
+  EXPECT_EQ(Convert(data, [] { Untick({kScaleEfd}); }),
+            "\"Sample\",\"Composite depth\"," + kAgeTitles +
+                "\r\n\"C1\",\"135.0\",900,9,19,\"cal BP\"\r\n"
+                "\"C2\",\"9999\",9999,9999,9999,\"9999\"\r\n"
+                "\"C3\",\"240\",2800,36,38,\"Hybrid unit\"\r\n"
+                "7,155.5,1200,12,22,\"cal BP\"\r\n"
+                "\"C5\",\"135.0\",900,9,19,\"cal BP\"\r\n"
+                "\"C6\",9999,9999,9999,9999,9999\r\n");
 }
 
 TEST_F(BatchConversion, EfdValuesUnderAnyOtherHeaderWord) {
@@ -166,7 +184,7 @@ TEST_F(BatchConversion, EfdValuesUnderAnyOtherHeaderWord) {
   EXPECT_EQ(Convert(data, [] { Untick({kScaleAge}); }),
             "\"Sample\",\"Depth below lake floor\"," + kCdTitle +
                 "\r\n\"E1\",\"135\",135\r\n\"E2\",\"151\",161\r\n\"E3\",\"150\",150\r\n"
-                "\"E4\",\"-9999\",\"-9999\"\r\n");
+                "\"E4\",-9999,-9999\r\n");
   EXPECT_EQ(InputKind, kScaleEfd);
   EXPECT_EQ(ToMask, 6);
   AgePrecision = 1;
@@ -174,14 +192,14 @@ TEST_F(BatchConversion, EfdValuesUnderAnyOtherHeaderWord) {
       Convert(data, [] { Untick({kScaleComposite}); }),
       "\"Sample\",\"Depth below lake floor\"," + kAgeTitles +
           "\r\n\"E1\",\"135\",900,9,19,\"cal BP\"\r\n\"E2\",\"151\",1220,12.2,22.2,\"cal BP\"\r\n"
-          "\"E3\",\"150\",1200,12,22,\"cal BP\"\r\n\"E4\",\"-9999\",-9999,-9999,-9999,-9999\r\n");
+          "\"E3\",\"150\",1200,12,22,\"cal BP\"\r\n\"E4\",-9999,-9999,-9999,-9999,-9999\r\n");
   EXPECT_EQ(ToMask, 12);
   EXPECT_EQ(Convert(data,
                     [] {
                       Untick({kScaleComposite, kScaleAge});
                     }),
             "\"Sample\",\"Depth below lake floor\"\r\n\"E1\",\"135\"\r\n\"E2\",\"151\"\r\n"
-            "\"E3\",\"150\"\r\n\"E4\",\"-9999\"\r\n");
+            "\"E3\",\"150\"\r\n\"E4\",-9999\r\n");
 }
 
 TEST_F(BatchConversion, AgeValuesComeFirstWithTheirErrors) {
@@ -195,8 +213,8 @@ TEST_F(BatchConversion, AgeValuesComeFirstWithTheirErrors) {
                 "\r\n"
                 "\"T1\",\"2400\",28,34,\"Hybrid unit\",220,210\r\n"
                 "\"T2\",\"1200\",12,22,\"cal BP\",150,150\r\n"
-                "\"T3\",\"-9999\",-9999,-9999,-9999,-9999,\"-9999\"\r\n"
-                "\"T4\",\"900\",9,19,\"cal BP\",135,135\r\n");
+                "\"T3\",\"-9999\",-9999,-9999,\"-9999\",-9999,\"-9999\"\r\n"
+                "\"T4\",900,9,19,\"cal BP\",135,135\r\n");
   EXPECT_EQ(InputKind, kScaleAge);
   const std::string ageOnly = Convert(data, [] { Untick({kScaleComposite, kScaleEfd}); });
   EXPECT_EQ(ToMask, 8);
