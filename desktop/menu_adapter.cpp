@@ -38,8 +38,10 @@ void MenuAdapter::SyncOwn(std::string_view property) {
   const bool all = property.empty();
   const QSignalBlocker blocker(action_);
   if (all || property == "Caption") {
-    action_->setText(ToQString(menu.Caption.Get()));
-    action_->setSeparator(submenu_ == nullptr && menu.Caption.Get() == "-");
+    // A separator is a line and nothing else: some styles print a separator's text beside it.
+    const bool separator = submenu_ == nullptr && menu.Caption.Get() == "-";
+    action_->setSeparator(separator);
+    action_->setText(separator ? QString() : ToQString(menu.Caption.Get()));
   }
   if (all || property == "Enabled") action_->setEnabled(menu.Enabled.Get());
   if (all || property == "Visible") action_->setVisible(menu.Visible.Get());

@@ -53,6 +53,17 @@ TEST_F(MainWindow, ShowsTheCaptionControlsAndMenuBar) {
     if (title->isVisible()) shown << title->text();
   }
   EXPECT_EQ(shown, (QStringList{"Range", "Font", "Tool", "Precision", "Info"}));
+
+  // An entry captioned "-" is a separator line and shows no text beside it.
+  int separators = 0;
+  for (const QAction* title : window->menuBar()->actions()) {
+    for (const QAction* entry : title->menu()->actions()) {
+      if (!entry->isSeparator()) continue;
+      ++separators;
+      EXPECT_TRUE(entry->text().isEmpty()) << title->text().toStdString();
+    }
+  }
+  EXPECT_GT(separators, 0);
 }
 
 TEST_F(MainWindow, PicturesShowTheirOperationsAndTheFormItsLines) {
