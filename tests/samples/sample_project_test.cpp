@@ -94,5 +94,28 @@ TEST_F(SampleProject, AgesByEfdAndByVarveCount) {
   EXPECT_EQ(Rounded(GetAgeFromEFD(621.3f), 0), 6088);
 }
 
+// With varve counts, writing the age box runs its change handler inside
+// DisplayAge: the way back from that age looks up the ages at the varve
+// record's ends, and the unit caption is chosen from the rows that lookup
+// left behind, rows 14 and 15, both in varve years.
+TEST_F(SampleProject, TypedDepthAfterVarvesShowsTheUnitOfTheRecordsEnd) {
+  ImportModelEventsAndAges();
+  ImportThrough("varve_counts_20250325.csv", &FrmMain::Command5_Click);
+  FrmMain& form = *frmMain;
+  form.Text2.SetFocus();
+  int key = 13;
+  form.Text2.KeyDown(key, 0);
+  form.Text2.Text = "1650.4";
+  ASSERT_TRUE(platform.messages.empty());
+  EXPECT_EQ(form.Text3.Text.Get(), "1600.62");
+  EXPECT_EQ(form.Text4.Text.Get(), "15206");
+  EXPECT_EQ(AgeRowLower, 14);
+  EXPECT_EQ(form.Label7.Caption.Get(), "Age (varve yr BP)");
+  EXPECT_EQ(form.Label8.Caption.Get(), "Error:  +261 (95.4 %)/ -191 (95.4 %)");
+  form.Text2.Text = "1489.6";  // the hybrid stretch of the batch
+  EXPECT_EQ(form.Text4.Text.Get(), "14205");
+  EXPECT_EQ(form.Label7.Caption.Get(), "Age (varve yr BP)");
+}
+
 }  // namespace
 }  // namespace ostraline
