@@ -8,14 +8,14 @@
 #include <string>
 
 #include "bench/synthetic_project.h"
-#include "core/number_text.h"
 #include "core/project_state.h"
 #include "display/core_columns.h"
 #include "display/display_state.h"
-#include "display/frm_main.h"
-#include "display/scripted_platform.h"
 #include "events/event_free_depth.h"
 #include "events/event_state.h"
+#include "forms/frm_main.h"
+#include "forms/scripted_platform.h"
+#include "runtime/number_text.h"
 
 namespace ostraline {
 namespace {

@@ -6,8 +6,8 @@
 #include "core/depth_conversions.h"
 #include "core/project_state.h"
 #include "display/display_state.h"
-#include "display/frm_main.h"
-#include "display/scripted_platform.h"
+#include "forms/frm_main.h"
+#include "forms/scripted_platform.h"
 
 namespace ostraline {
 namespace {

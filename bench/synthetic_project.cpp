@@ -4,9 +4,9 @@
 #include <fstream>
 
 #include "core/fresh_program.h"
-#include "core/number_text.h"
-#include "display/frm_main.h"
-#include "display/scripted_platform.h"
+#include "forms/frm_main.h"
+#include "forms/scripted_platform.h"
+#include "runtime/number_text.h"
 
 namespace ostraline {
 

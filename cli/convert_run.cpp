@@ -5,10 +5,10 @@
 #include <string>
 
 #include "core/project_state.h"
-#include "display/frm_conversion.h"
-#include "display/frm_main.h"
-#include "display/scripted_platform.h"
 #include "events/batch_state.h"
+#include "forms/frm_conversion.h"
+#include "forms/frm_main.h"
+#include "forms/scripted_platform.h"
 
 namespace ostraline::cli {
 namespace {

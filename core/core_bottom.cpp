@@ -1,9 +1,9 @@
 #include "core/core_bottom.h"
 
 #include "core/project_state.h"
-#include "display/frm_main.h"
-#include "display/platform.h"
 #include "events/event_state.h"
+#include "forms/frm_main.h"
+#include "forms/platform.h"
 
 namespace ostraline {
 

@@ -4,13 +4,13 @@
 #include "core/import_pattern.h"
 
 #include "core/depth_conversions.h"
-#include "core/field_reader.h"
-#include "core/file_names.h"
-#include "core/number_text.h"
 #include "core/project_state.h"
-#include "display/frm_main.h"
-#include "display/frm_version.h"
-#include "display/platform.h"
+#include "forms/frm_main.h"
+#include "forms/frm_version.h"
+#include "forms/platform.h"
+#include "runtime/field_reader.h"
+#include "runtime/file_names.h"
+#include "runtime/number_text.h"
 
 namespace ostraline {
 namespace {

@@ -1,11 +1,11 @@
 #include "core/depth_conversions.h"
 
 #include "core/hole_lookup.h"
-#include "core/number_text.h"
 #include "core/project_state.h"
 #include "display/display_state.h"
-#include "display/frm_divider.h"
-#include "display/frm_main.h"
+#include "forms/frm_divider.h"
+#include "forms/frm_main.h"
+#include "runtime/number_text.h"
 
 namespace ostraline {
 namespace {

@@ -1,8 +1,8 @@
 #pragma once
 // From the Holy trinity to composite depth and back, from the tie points of
 // the section concerned.
-#include "core/checked_int.h"
-#include "core/variant.h"
+#include "runtime/checked_int.h"
+#include "runtime/variant.h"
 
 namespace ostraline {
 

@@ -2,10 +2,10 @@
 // box leads, and saves the texts to go back to.
 #include "core/entry_focus.h"
 
-#include "core/number_text.h"
 #include "core/project_state.h"
-#include "display/frm_main.h"
 #include "events/event_state.h"
+#include "forms/frm_main.h"
+#include "runtime/number_text.h"
 
 namespace ostraline {
 

@@ -2,9 +2,9 @@
 
 #include "core/project_state.h"
 #include "display/display_state.h"
-#include "display/form.h"
 #include "events/batch_state.h"
 #include "events/event_state.h"
+#include "forms/form.h"
 
 namespace ostraline {
 

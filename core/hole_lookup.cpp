@@ -1,7 +1,7 @@
 #include "core/hole_lookup.h"
 
-#include "core/number_text.h"
 #include "core/project_state.h"
+#include "runtime/number_text.h"
 
 namespace ostraline {
 

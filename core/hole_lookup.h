@@ -3,8 +3,8 @@
 // lookups differ on purpose: which one a caller uses decides ties and misses.
 #include <string>
 
-#include "core/checked_int.h"
-#include "core/variant.h"
+#include "runtime/checked_int.h"
+#include "runtime/variant.h"
 
 namespace ostraline {
 

@@ -1,7 +1,7 @@
 #include "core/import_pattern.h"
 
-#include "display/frm_main.h"
-#include "display/platform.h"
+#include "forms/frm_main.h"
+#include "forms/platform.h"
 
 namespace ostraline {
 

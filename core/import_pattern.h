@@ -1,7 +1,7 @@
 #pragma once
 // The pattern that every import shares: the open dialog, the file, and the
 // one failure path.
-#include "core/field_reader.h"
+#include "runtime/field_reader.h"
 
 namespace ostraline {
 

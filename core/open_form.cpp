@@ -2,11 +2,11 @@
 // opens its controls and takes up its first target horizon.
 #include "core/correlation_model.h"
 #include "core/depth_conversions.h"
-#include "core/number_text.h"
 #include "core/project_state.h"
-#include "display/frm_kx11.h"
-#include "display/frm_main.h"
-#include "display/platform.h"
+#include "forms/frm_kx11.h"
+#include "forms/frm_main.h"
+#include "forms/platform.h"
+#include "runtime/number_text.h"
 
 namespace ostraline {
 

@@ -1,6 +1,6 @@
 #include "core/project_state.h"
 
-#include "core/number_text.h"
+#include "runtime/number_text.h"
 
 namespace ostraline {
 

@@ -5,9 +5,9 @@
 // references to its members.
 #include <string>
 
-#include "core/checked_int.h"
-#include "core/table.h"
-#include "core/variant.h"
+#include "runtime/checked_int.h"
+#include "runtime/table.h"
+#include "runtime/variant.h"
 
 namespace ostraline {
 

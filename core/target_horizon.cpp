@@ -3,17 +3,17 @@
 #include "core/core_bottom.h"
 #include "core/depth_conversions.h"
 #include "core/hole_lookup.h"
-#include "core/number_text.h"
 #include "core/project_state.h"
 #include "core/trinity_view.h"
 #include "display/core_columns.h"
 #include "display/display_state.h"
-#include "display/frm_divider.h"
-#include "display/frm_main.h"
-#include "display/frm_test.h"
-#include "display/platform.h"
 #include "events/event_free_depth.h"
 #include "events/event_state.h"
+#include "forms/frm_divider.h"
+#include "forms/frm_main.h"
+#include "forms/frm_test.h"
+#include "forms/platform.h"
+#include "runtime/number_text.h"
 
 namespace ostraline {
 namespace {

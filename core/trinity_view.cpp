@@ -2,13 +2,13 @@
 
 #include "core/depth_conversions.h"
 #include "core/hole_lookup.h"
-#include "core/number_text.h"
 #include "core/project_state.h"
 #include "display/core_columns.h"
 #include "display/display_state.h"
-#include "display/frm_main.h"
 #include "events/age_lookup.h"
 #include "events/event_free_depth.h"
+#include "forms/frm_main.h"
+#include "runtime/number_text.h"
 
 namespace ostraline {
 

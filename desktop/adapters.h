@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "desktop/control_adapter.h"
-#include "display/canvas.h"
+#include "forms/canvas.h"
 
 class QWidget;
 

@@ -7,7 +7,7 @@
 #include <functional>
 #include <string_view>
 
-#include "display/controls.h"
+#include "forms/controls.h"
 
 class QKeyEvent;
 class QMouseEvent;

@@ -6,7 +6,7 @@
 #include <QString>
 #include <string>
 
-#include "display/controls.h"
+#include "forms/controls.h"
 
 namespace ostraline {
 

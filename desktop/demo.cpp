@@ -5,7 +5,7 @@
 #include <deque>
 
 #include "desktop/shell.h"
-#include "display/frm_main.h"
+#include "forms/frm_main.h"
 
 namespace ostraline {
 namespace {

@@ -3,7 +3,7 @@
 // them through this interface, so that tests can answer in the user's place.
 #include <string>
 
-#include "display/platform.h"
+#include "forms/platform.h"
 
 namespace ostraline {
 

@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <exception>
 
-#include "display/form.h"
+#include "forms/form.h"
 
 namespace ostraline {
 namespace {

@@ -11,8 +11,8 @@
 #include "desktop/fonts.h"
 #include "desktop/key_codes.h"
 #include "desktop/raster_cache.h"
-#include "display/canvas.h"
-#include "display/form.h"
+#include "forms/canvas.h"
+#include "forms/form.h"
 
 namespace ostraline {
 namespace {

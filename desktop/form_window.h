@@ -7,7 +7,7 @@
 #include <unordered_map>
 
 #include "desktop/control_adapter.h"
-#include "display/form.h"
+#include "forms/form.h"
 
 namespace ostraline {
 

@@ -7,7 +7,7 @@
 
 #include "desktop/demo.h"
 #include "desktop/shell.h"
-#include "display/frm_main.h"
+#include "forms/frm_main.h"
 
 int main(int argc, char* argv[]) {
   QApplication app(argc, argv);

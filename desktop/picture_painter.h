@@ -6,7 +6,7 @@
 #include <QImage>
 #include <vector>
 
-#include "display/canvas.h"
+#include "forms/canvas.h"
 
 class QPainter;
 

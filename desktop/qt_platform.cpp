@@ -9,7 +9,7 @@
 #include "desktop/conversions.h"
 #include "desktop/picture_painter.h"
 #include "desktop/raster_cache.h"
-#include "display/canvas.h"
+#include "forms/canvas.h"
 
 namespace ostraline {
 namespace {

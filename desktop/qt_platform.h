@@ -2,7 +2,7 @@
 // The platform services of the desktop: real dialogs, message boxes, the
 // clipboard, pictures from files, the pointer and the screen.
 #include "desktop/dialogs.h"
-#include "display/platform.h"
+#include "forms/platform.h"
 
 namespace ostraline {
 

@@ -2,7 +2,7 @@
 // The screen the control model reports to: one window per loaded form.
 #include <unordered_map>
 
-#include "display/form.h"
+#include "forms/form.h"
 
 class QWidget;
 

@@ -3,10 +3,10 @@
 #include "core/project_state.h"
 #include "display/core_columns.h"
 #include "display/display_state.h"
-#include "display/frm_main.h"
-#include "display/platform.h"
 #include "display/scale_strip.h"
 #include "display/target_line.h"
+#include "forms/frm_main.h"
+#include "forms/platform.h"
 
 namespace ostraline {
 namespace {

@@ -4,9 +4,9 @@
 #include "display/core_columns_steps.h"
 #include "display/display_state.h"
 #include "display/event_view.h"
-#include "display/frm_main.h"
 #include "display/scale_strip.h"
 #include "events/event_state.h"
+#include "forms/frm_main.h"
 
 namespace ostraline {
 namespace {

@@ -3,14 +3,14 @@
 // selected scale.
 #include <string>
 
-#include "core/number_text.h"
 #include "core/project_state.h"
-#include "core/variant.h"
 #include "display/core_columns_paint.h"
 #include "display/core_columns_steps.h"
 #include "display/display_state.h"
-#include "display/frm_main.h"
 #include "events/event_state.h"
+#include "forms/frm_main.h"
+#include "runtime/number_text.h"
+#include "runtime/variant.h"
 
 namespace ostraline {
 namespace {

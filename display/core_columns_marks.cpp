@@ -3,13 +3,13 @@
 // column, and the fixed horizon.
 #include <string>
 
-#include "core/number_text.h"
 #include "core/project_state.h"
 #include "display/core_columns_paint.h"
 #include "display/core_columns_rows.h"
 #include "display/core_columns_steps.h"
 #include "display/display_state.h"
-#include "display/frm_main.h"
+#include "forms/frm_main.h"
+#include "runtime/number_text.h"
 
 namespace ostraline {
 namespace {

@@ -6,9 +6,9 @@
 #include <string_view>
 #include <system_error>
 
-#include "core/number_text.h"
 #include "display/display_state.h"
-#include "display/frm_main.h"
+#include "forms/frm_main.h"
+#include "runtime/number_text.h"
 
 namespace ostraline {
 

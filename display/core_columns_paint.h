@@ -3,8 +3,8 @@
 // cross, the text offset of a label, and the numbers read from text cells.
 #include <string>
 
-#include "core/checked_int.h"
-#include "display/canvas.h"
+#include "forms/canvas.h"
+#include "runtime/checked_int.h"
 
 namespace ostraline {
 

@@ -1,8 +1,8 @@
 #include "display/core_columns_rows.h"
 
-#include "core/number_text.h"
 #include "core/project_state.h"
 #include "display/core_columns_paint.h"
+#include "runtime/number_text.h"
 
 namespace ostraline {
 namespace {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "core/checked_int.h"
+#include "runtime/checked_int.h"
 
 namespace ostraline {
 

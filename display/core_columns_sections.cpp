@@ -5,7 +5,7 @@
 #include "display/core_columns_rows.h"
 #include "display/core_columns_steps.h"
 #include "display/display_state.h"
-#include "display/frm_main.h"
+#include "forms/frm_main.h"
 
 namespace ostraline {
 namespace {

@@ -2,8 +2,8 @@
 // Display settings and the state of the pointer, owned by the display subsystem.
 #include <string>
 
-#include "core/checked_int.h"
-#include "core/table.h"
+#include "runtime/checked_int.h"
+#include "runtime/table.h"
 
 namespace ostraline {
 

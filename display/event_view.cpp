@@ -2,14 +2,14 @@
 
 #include <vector>
 
-#include "core/failure.h"
 #include "core/hole_lookup.h"
-#include "core/number_text.h"
 #include "core/project_state.h"
 #include "display/core_columns_paint.h"
 #include "display/display_state.h"
-#include "display/frm_main.h"
 #include "events/event_state.h"
+#include "forms/frm_main.h"
+#include "runtime/failure.h"
+#include "runtime/number_text.h"
 
 namespace ostraline {
 namespace {

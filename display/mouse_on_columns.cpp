@@ -5,16 +5,16 @@
 #include <cmath>
 
 #include "core/depth_conversions.h"
-#include "core/number_text.h"
 #include "core/project_state.h"
 #include "display/display_state.h"
-#include "display/frm_divider.h"
-#include "display/frm_main.h"
-#include "display/platform.h"
 #include "display/target_line.h"
 #include "events/age_lookup.h"
 #include "events/event_free_depth.h"
 #include "events/event_state.h"
+#include "forms/frm_divider.h"
+#include "forms/frm_main.h"
+#include "forms/platform.h"
+#include "runtime/number_text.h"
 
 namespace ostraline {
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 // The pointer on the columns: depths under the pointer become tool tips and
 // brackets, clicks become the new target or open the tools on that horizon.
-#include "core/checked_int.h"
+#include "runtime/checked_int.h"
 
 namespace ostraline {
 

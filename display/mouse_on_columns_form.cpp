@@ -4,10 +4,10 @@
 #include <array>
 
 #include "display/display_state.h"
-#include "display/frm_main.h"
 #include "display/mouse_on_columns.h"
-#include "display/platform.h"
 #include "display/target_line.h"
+#include "forms/frm_main.h"
+#include "forms/platform.h"
 
 namespace ostraline {
 namespace {

@@ -4,14 +4,14 @@
 
 #include <string>
 
-#include "core/number_text.h"
 #include "core/project_state.h"
 #include "display/core_columns.h"
 #include "display/display_state.h"
-#include "display/frm_kx11.h"
-#include "display/frm_main.h"
 #include "display/mouse_on_columns.h"
 #include "display/target_line.h"
+#include "forms/frm_kx11.h"
+#include "forms/frm_main.h"
+#include "runtime/number_text.h"
 
 namespace ostraline {
 namespace {

@@ -1,6 +1,6 @@
 #pragma once
 // The depth span the columns show and the layout of the main form's panels.
-#include "core/checked_int.h"
+#include "runtime/checked_int.h"
 
 namespace ostraline {
 

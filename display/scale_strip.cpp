@@ -1,14 +1,14 @@
 #include "display/scale_strip.h"
 
-#include "core/number_text.h"
 #include "core/project_state.h"
 #include "display/core_columns_paint.h"
 #include "display/display_state.h"
-#include "display/frm_main.h"
-#include "display/platform.h"
 #include "events/age_lookup.h"
 #include "events/event_free_depth.h"
 #include "events/event_state.h"
+#include "forms/frm_main.h"
+#include "forms/platform.h"
+#include "runtime/number_text.h"
 
 namespace ostraline {
 namespace {

@@ -1,7 +1,7 @@
 #include "display/target_line.h"
 
-#include "display/frm_main.h"
-#include "display/platform.h"
+#include "forms/frm_main.h"
+#include "forms/platform.h"
 
 namespace ostraline {
 namespace {

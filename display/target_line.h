@@ -2,7 +2,7 @@
 // The pointer's overlay on the core view: an orange line across the columns
 // at the depth under the pointer, erased with Cls so that the committed
 // picture stays untouched.
-#include "core/checked_int.h"
+#include "runtime/checked_int.h"
 
 namespace ostraline {
 

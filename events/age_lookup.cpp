@@ -6,13 +6,13 @@
 
 #include "core/core_bottom.h"
 #include "core/entry_focus.h"
-#include "core/number_text.h"
 #include "core/project_state.h"
-#include "display/frm_main.h"
-#include "display/platform.h"
 #include "events/event_free_depth.h"
 #include "events/event_state.h"
 #include "events/varve_counts.h"
+#include "forms/frm_main.h"
+#include "forms/platform.h"
+#include "runtime/number_text.h"
 
 namespace ostraline {
 namespace {

@@ -3,8 +3,8 @@
 // age, from the control points of the age-depth model. Between two control
 // points the age runs linearly in EFD, or by the counted varves where the
 // varve record covers both points.
-#include "core/checked_int.h"
-#include "core/variant.h"
+#include "runtime/checked_int.h"
+#include "runtime/variant.h"
 
 namespace ostraline {
 

@@ -2,16 +2,16 @@
 // the layout of the scale given (FromKind) and the scales ticked (ToMask).
 #include <string>
 
-#include "core/field_reader.h"
-#include "core/number_text.h"
 #include "core/project_state.h"
-#include "display/frm_main.h"
 #include "events/age_lookup.h"
 #include "events/batch_conversion.h"
 #include "events/batch_output_file.h"
 #include "events/batch_state.h"
 #include "events/event_free_depth.h"
 #include "events/event_state.h"
+#include "forms/frm_main.h"
+#include "runtime/field_reader.h"
+#include "runtime/number_text.h"
 
 namespace ostraline {
 namespace {

@@ -3,7 +3,7 @@
 // rows given as positions, and writing the converted file's rows.
 #include <string>
 
-#include "core/variant.h"
+#include "runtime/variant.h"
 
 namespace ostraline {
 

@@ -3,17 +3,17 @@
 #include <array>
 #include <string>
 
-#include "core/failure.h"
-#include "core/field_reader.h"
 #include "core/import_pattern.h"
-#include "core/number_text.h"
 #include "core/project_state.h"
-#include "display/frm_conversion.h"
-#include "display/frm_main.h"
-#include "display/platform.h"
 #include "events/batch_conversion.h"
 #include "events/batch_state.h"
 #include "events/event_state.h"
+#include "forms/frm_conversion.h"
+#include "forms/frm_main.h"
+#include "forms/platform.h"
+#include "runtime/failure.h"
+#include "runtime/field_reader.h"
+#include "runtime/number_text.h"
 
 namespace ostraline {
 namespace {

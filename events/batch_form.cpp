@@ -1,12 +1,12 @@
 // frmConversion: the scale the file holds (" From ") decides which scales can
 // be written (" To "); the input scale is always written.
 #include "core/project_state.h"
-#include "display/frm_conversion.h"
-#include "display/frm_main.h"
-#include "display/platform.h"
 #include "events/batch_conversion.h"
 #include "events/batch_state.h"
 #include "events/event_state.h"
+#include "forms/frm_conversion.h"
+#include "forms/frm_main.h"
+#include "forms/platform.h"
 
 namespace ostraline {
 

@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <random>
 
-#include "core/failure.h"
+#include "runtime/failure.h"
 
 namespace ostraline {
 namespace {

@@ -4,13 +4,13 @@
 
 #include "core/depth_conversions.h"
 #include "core/hole_lookup.h"
-#include "core/number_text.h"
 #include "core/project_state.h"
-#include "display/frm_main.h"
 #include "events/batch_conversion.h"
 #include "events/batch_state.h"
 #include "events/event_free_depth.h"
 #include "events/event_state.h"
+#include "forms/frm_main.h"
+#include "runtime/number_text.h"
 
 namespace ostraline {
 namespace {

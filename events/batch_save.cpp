@@ -1,14 +1,14 @@
 // "Convert and Save": the chosen scales of every row of the data file into a
 // new comma-separated file.
-#include "core/failure.h"
 #include "core/import_pattern.h"
 #include "core/project_state.h"
-#include "display/frm_conversion.h"
-#include "display/frm_main.h"
-#include "display/platform.h"
 #include "events/batch_conversion.h"
 #include "events/batch_output_file.h"
 #include "events/batch_state.h"
+#include "forms/frm_conversion.h"
+#include "forms/frm_main.h"
+#include "forms/platform.h"
+#include "runtime/failure.h"
 
 namespace ostraline {
 

@@ -1,13 +1,13 @@
 // The first pass of "Convert and Save" over a file of values: column 3 of
 // ValueTable takes the EFD (from an age or a composite depth) or the
 // composite depth (from an EFD), the scale that the second pass builds on.
-#include "core/number_text.h"
 #include "core/project_state.h"
-#include "display/frm_main.h"
 #include "events/age_lookup.h"
 #include "events/batch_conversion.h"
 #include "events/batch_state.h"
 #include "events/event_free_depth.h"
+#include "forms/frm_main.h"
+#include "runtime/number_text.h"
 
 namespace ostraline {
 

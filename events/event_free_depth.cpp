@@ -1,8 +1,8 @@
 #include "events/event_free_depth.h"
 
-#include "core/number_text.h"
 #include "core/project_state.h"
 #include "events/event_state.h"
+#include "runtime/number_text.h"
 
 namespace ostraline {
 

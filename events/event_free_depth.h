@@ -1,8 +1,8 @@
 #pragma once
 // Composite depth to event free depth and back: the merged event layers cut
 // out of the scale. No other code subtracts thickness.
-#include "core/checked_int.h"
-#include "core/variant.h"
+#include "runtime/checked_int.h"
+#include "runtime/variant.h"
 
 namespace ostraline {
 

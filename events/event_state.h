@@ -3,9 +3,9 @@
 // tables of the events and ages subsystem.
 #include <string>
 
-#include "core/checked_int.h"
-#include "core/table.h"
-#include "core/variant.h"
+#include "runtime/checked_int.h"
+#include "runtime/table.h"
+#include "runtime/variant.h"
 
 namespace ostraline {
 

@@ -4,17 +4,17 @@
 
 #include <algorithm>
 
-#include "core/field_reader.h"
-#include "core/file_names.h"
 #include "core/import_pattern.h"
 #include "core/project_state.h"
 #include "display/core_columns.h"
-#include "display/frm_main.h"
-#include "display/frm_version.h"
-#include "display/platform.h"
 #include "events/copy_to_duo.h"
 #include "events/event_free_depth.h"
 #include "events/event_state.h"
+#include "forms/frm_main.h"
+#include "forms/frm_version.h"
+#include "forms/platform.h"
+#include "runtime/field_reader.h"
+#include "runtime/file_names.h"
 
 namespace ostraline {
 namespace {

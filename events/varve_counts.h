@@ -1,6 +1,6 @@
 #pragma once
 // The counted varves between two control points of the age-depth model.
-#include "core/checked_int.h"
+#include "runtime/checked_int.h"
 
 namespace ostraline {
 

@@ -4,12 +4,12 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "core/failure.h"
 #include "core/project_state.h"
-#include "display/frm_main.h"
 #include "events/age_lookup.h"
 #include "events/event_state.h"
+#include "forms/frm_main.h"
 #include "fuzz/support/age_chain.h"
+#include "runtime/failure.h"
 
 namespace {
 

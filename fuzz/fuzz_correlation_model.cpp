@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "display/frm_main.h"
+#include "forms/frm_main.h"
 #include "fuzz/support/fuzz_support.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

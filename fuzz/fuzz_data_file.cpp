@@ -10,11 +10,11 @@
 #include <iterator>
 #include <string>
 
-#include "core/number_text.h"
-#include "display/frm_conversion.h"
-#include "display/frm_main.h"
 #include "events/batch_state.h"
+#include "forms/frm_conversion.h"
+#include "forms/frm_main.h"
 #include "fuzz/support/age_chain.h"
+#include "runtime/number_text.h"
 
 namespace {
 

@@ -5,8 +5,8 @@
 #include <cstdlib>
 #include <string>
 
-#include "core/failure.h"
-#include "core/field_reader.h"
+#include "runtime/failure.h"
+#include "runtime/field_reader.h"
 
 namespace {
 

@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "core/project_state.h"
-#include "display/frm_main.h"
-#include "display/frm_version.h"
+#include "forms/frm_main.h"
+#include "forms/frm_version.h"
 
 namespace ostraline {
 namespace {

@@ -10,8 +10,8 @@
 #include <string_view>
 
 #include "core/project_state.h"
-#include "display/frm_main.h"
 #include "events/event_state.h"
+#include "forms/frm_main.h"
 #include "fuzz/support/fuzz_support.h"
 
 namespace ostraline::fuzz {

@@ -9,7 +9,7 @@
 #include <memory>
 
 #include "core/fresh_program.h"
-#include "display/platform.h"
+#include "forms/platform.h"
 
 namespace ostraline::fuzz {
 namespace {

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-#include "display/scripted_platform.h"
+#include "forms/scripted_platform.h"
 
 namespace ostraline::fuzz {
 

@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "core/project_state.h"
-#include "display/frm_conversion.h"
-#include "display/frm_main.h"
+#include "forms/frm_conversion.h"
+#include "forms/frm_main.h"
 #include "support/fresh_program.h"
 
 namespace ostraline {

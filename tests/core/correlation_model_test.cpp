@@ -2,8 +2,8 @@
 #include <vector>
 
 #include "core/project_state.h"
-#include "display/frm_kx11.h"
-#include "display/frm_main.h"
+#include "forms/frm_kx11.h"
+#include "forms/frm_main.h"
 #include "support/fresh_program.h"
 #include "support/model_files.h"
 

@@ -5,7 +5,7 @@
 #include "core/hole_lookup.h"
 #include "core/project_state.h"
 #include "display/display_state.h"
-#include "display/frm_main.h"
+#include "forms/frm_main.h"
 #include "support/fresh_program.h"
 #include "support/model_files.h"
 

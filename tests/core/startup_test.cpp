@@ -6,10 +6,10 @@
 
 #include "core/project_state.h"
 #include "display/display_state.h"
-#include "display/form.h"
-#include "display/frm_divider.h"
-#include "display/frm_main.h"
 #include "events/event_state.h"
+#include "forms/form.h"
+#include "forms/frm_divider.h"
+#include "forms/frm_main.h"
 #include "support/fresh_program.h"
 
 namespace ostraline {

@@ -4,8 +4,8 @@
 
 #include "core/project_state.h"
 #include "display/display_state.h"
-#include "display/frm_main.h"
 #include "events/event_state.h"
+#include "forms/frm_main.h"
 #include "support/event_files.h"
 #include "support/fresh_program.h"
 #include "support/model_files.h"

@@ -9,7 +9,7 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "display/frm_main.h"
+#include "forms/frm_main.h"
 #include "shell_fixture.h"
 #include "support/model_files.h"
 

@@ -17,7 +17,7 @@
 #include "desktop/file_filter.h"
 #include "desktop/picture_painter.h"
 #include "desktop/qt_platform.h"
-#include "display/canvas.h"
+#include "forms/canvas.h"
 
 namespace ostraline {
 namespace {

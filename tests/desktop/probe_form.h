@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "display/canvas.h"
-#include "display/form.h"
+#include "forms/canvas.h"
+#include "forms/form.h"
 
 namespace ostraline {
 

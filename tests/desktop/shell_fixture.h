@@ -8,7 +8,7 @@
 
 #include "desktop/dialogs.h"
 #include "desktop/shell.h"
-#include "display/scripted_platform.h"
+#include "forms/scripted_platform.h"
 
 namespace ostraline {
 

@@ -7,9 +7,9 @@
 #include "core/project_state.h"
 #include "display/core_columns.h"
 #include "display/display_state.h"
-#include "display/frm_main.h"
 #include "display/target_line.h"
 #include "events/event_state.h"
+#include "forms/frm_main.h"
 #include "support/fresh_program.h"
 #include "support/model_files.h"
 

@@ -5,8 +5,8 @@
 #include "core/project_state.h"
 #include "display/display_state.h"
 #include "display/event_view.h"
-#include "display/frm_main.h"
 #include "events/event_state.h"
+#include "forms/frm_main.h"
 #include "support/fresh_program.h"
 
 namespace ostraline {

@@ -3,9 +3,9 @@
 
 #include "core/project_state.h"
 #include "display/display_state.h"
-#include "display/form.h"
-#include "display/frm_main.h"
 #include "display/mouse_on_columns.h"
+#include "forms/form.h"
+#include "forms/frm_main.h"
 #include "support/event_files.h"
 #include "support/fresh_program.h"
 #include "support/model_files.h"

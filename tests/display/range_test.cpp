@@ -1,11 +1,11 @@
 #include <string>
 #include <vector>
 
-#include "core/failure.h"
 #include "core/project_state.h"
 #include "display/display_state.h"
-#include "display/frm_kx11.h"
-#include "display/frm_main.h"
+#include "forms/frm_kx11.h"
+#include "forms/frm_main.h"
+#include "runtime/failure.h"
 #include "support/fresh_program.h"
 #include "support/model_files.h"
 

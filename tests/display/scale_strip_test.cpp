@@ -4,9 +4,9 @@
 #include <vector>
 
 #include "display/display_state.h"
-#include "display/frm_main.h"
 #include "display/scale_strip.h"
 #include "events/event_state.h"
+#include "forms/frm_main.h"
 #include "support/fresh_program.h"
 
 namespace ostraline {

@@ -3,8 +3,8 @@
 #include <string>
 
 #include "core/project_state.h"
-#include "display/frm_main.h"
-#include "display/frm_version.h"
+#include "forms/frm_main.h"
+#include "forms/frm_version.h"
 #include "support/fresh_program.h"
 
 namespace ostraline {

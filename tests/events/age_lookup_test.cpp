@@ -1,9 +1,9 @@
 #include "events/age_lookup.h"
 
-#include "core/number_text.h"
 #include "core/project_state.h"
-#include "display/frm_main.h"
 #include "events/event_state.h"
+#include "forms/frm_main.h"
+#include "runtime/number_text.h"
 #include "support/age_files.h"
 
 namespace ostraline {

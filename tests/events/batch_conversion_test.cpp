@@ -5,10 +5,10 @@
 #include <string>
 
 #include "core/project_state.h"
-#include "display/frm_conversion.h"
-#include "display/frm_main.h"
 #include "events/batch_state.h"
 #include "events/event_state.h"
+#include "forms/frm_conversion.h"
+#include "forms/frm_main.h"
 #include "support/age_files.h"
 #include "support/model_files.h"
 

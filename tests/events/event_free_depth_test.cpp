@@ -1,7 +1,7 @@
 #include "events/event_free_depth.h"
-#include "core/number_text.h"
 #include "core/project_state.h"
 #include "events/event_state.h"
+#include "runtime/number_text.h"
 #include "support/fresh_program.h"
 
 namespace ostraline {

@@ -2,12 +2,12 @@
 #include <utility>
 #include <vector>
 
-#include "core/number_text.h"
 #include "core/project_state.h"
-#include "display/frm_main.h"
-#include "display/frm_version.h"
 #include "events/event_free_depth.h"
 #include "events/event_state.h"
+#include "forms/frm_main.h"
+#include "forms/frm_version.h"
+#include "runtime/number_text.h"
 #include "support/event_files.h"
 #include "support/fresh_program.h"
 #include "support/model_files.h"

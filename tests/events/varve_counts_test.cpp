@@ -1,8 +1,8 @@
 #include "core/project_state.h"
-#include "display/frm_main.h"
-#include "display/frm_version.h"
 #include "events/age_lookup.h"
 #include "events/event_state.h"
+#include "forms/frm_main.h"
+#include "forms/frm_version.h"
 #include "support/age_files.h"
 
 namespace ostraline {

@@ -4,12 +4,12 @@
 #include <string>
 
 #include "core/depth_conversions.h"
-#include "core/number_text.h"
 #include "core/project_state.h"
-#include "display/frm_main.h"
 #include "events/age_lookup.h"
 #include "events/event_free_depth.h"
 #include "events/event_state.h"
+#include "forms/frm_main.h"
+#include "runtime/number_text.h"
 #include "support/fresh_program.h"
 
 namespace ostraline {

@@ -1,6 +1,6 @@
 #include "support/age_files.h"
 
-#include "display/frm_main.h"
+#include "forms/frm_main.h"
 #include "support/model_files.h"
 
 namespace ostraline {

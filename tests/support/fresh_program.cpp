@@ -1,7 +1,7 @@
 #include "support/fresh_program.h"
 
 #include "core/fresh_program.h"
-#include "display/form.h"
+#include "forms/form.h"
 
 namespace ostraline {
 

@@ -5,8 +5,8 @@
 
 #include <ostream>
 
-#include "core/variant.h"
-#include "display/scripted_platform.h"
+#include "forms/scripted_platform.h"
+#include "runtime/variant.h"
 
 namespace ostraline {
 

@@ -1,0 +1,120 @@
+#include "forms/frm_main.h"
+
+namespace ostraline {
+
+// Each control's events go to the handler of the subsystem that owns it.
+void FrmMain::WireHandlers() {
+  Command1.Click = [this] { Command1_Click(); };
+  Command2.Click = [this] { Command2_Click(); };
+  Command3.Click = [this] { Command3_Click(); };
+  Command4.Click = [this] { Command4_Click(); };
+  Command5.Click = [this] { Command5_Click(); };
+  Text4.GotFocus = [this] { Text4_GotFocus(); };
+  Text4.Change = [this] { Text4_Change(); };
+  Label1(8).Change = [this] { Label1_Change(8); };
+
+  // The target horizon.
+  Text1.Change = [this] { Text1_Change(); };
+  Text2.Change = [this] { Text2_Change(); };
+  Text3.Change = [this] { Text3_Change(); };
+  Combo1.Change = [this] { Combo1_Change(); };
+  Combo1.Click = [this] { Combo1_Click(); };
+  Combo2.Change = [this] { Combo2_Change(); };
+  Combo2.Click = [this] { Combo2_Click(); };
+  Combo5.Change = [this] { Combo5_Change(); };
+  Combo5.Click = [this] { Combo5_Click(); };
+  Text1.KeyPress = [this](int& keyAscii) { Text1_KeyPress(keyAscii); };
+  Text2.KeyDown = [this](int& keyCode, int shift) { Text2_KeyDown(keyCode, shift); };
+  Text3.KeyDown = [this](int& keyCode, int shift) { Text3_KeyDown(keyCode, shift); };
+  Text3.KeyPress = [this](int& keyAscii) { Text3_KeyPress(keyAscii); };
+  Text3.MouseDown = [this](int, int, float, float) { Text3_MouseDown(); };
+  Text4.KeyPress = [this](int& keyAscii) { Text4_KeyPress(keyAscii); };
+  Text1.GotFocus = [this] { Text1_GotFocus(); };
+  Text2.GotFocus = [this] { Text2_GotFocus(); };
+  Text3.GotFocus = [this] { Text3_GotFocus(); };
+  Slider1.Scroll = [this] { Slider1_Scroll(); };
+  Option1.ForEach([this](OptionButton& option) {
+    const int index = option.Index();
+    option.Click = [this, index] { Option1_Click(index); };
+  });
+  Option2.ForEach([this](OptionButton& option) {
+    const int index = option.Index();
+    option.Click = [this, index] { Option2_Click(index); };
+  });
+  Option4.ForEach([this](OptionButton& option) {
+    const int index = option.Index();
+    option.Click = [this, index] { Option4_Click(index); };
+  });
+  Text1.MouseMove = [this](int, int, float, float) { Text1_MouseMove(); };
+  Text2.MouseMove = [this](int, int, float, float) { Text2_MouseMove(); };
+  Text3.MouseMove = [this](int, int, float, float) { Text3_MouseMove(); };
+  Text4.MouseMove = [this](int, int, float, float) { Text4_MouseMove(); };
+  Check1.ForEach([this](CheckBox& box) {
+    const int index = box.Index();
+    box.MouseMove = [this, index](int, int, float, float) { Check1_MouseMove(index); };
+  });
+
+  // What the columns show.
+  mnuShowTiePoints.Click = [this] { mnuShowTiePoints_Click(); };
+  mnuShowLabCodes.Click = [this] { mnuShowLabCodes_Click(); };
+  mnuHorizontal.Click = [this] { mnuHorizontal_Click(); };
+  mnuHorizontalN.ForEach([this](Menu& entry) {
+    const int panel = entry.Index();
+    entry.Click = [this, panel] { mnuHorizontalN_Click(panel); };
+  });
+  mnuHorizontalBH.Click = [this] { mnuHorizontalBH_Click(); };
+  mnuDepth.Click = [this] { mnuDepth_Click(); };
+  mnuAge.Click = [this] { mnuAge_Click(); };
+  mnuSize.ForEach([this](Menu& entry) {
+    const int index = entry.Index();
+    entry.Click = [this, index] { mnuSize_Click(index); };
+  });
+  mnuCopyDepth.Click = [this] { mnuCopyDepth_Click(); };
+
+  // The pointer on the columns and panels; leaving them over a label clears the overlay.
+  BoreHole.ForEach([this](PictureBox& column) {
+    const int index = column.Index();
+    column.MouseMove = [this, index](int b, int s, float x, float y) {
+      BoreHole_MouseMove(index, b, s, x, y);
+    };
+    column.MouseDown = [this, index](int b, int s, float x, float y) {
+      BoreHole_MouseDown(index, b, s, x, y);
+    };
+  });
+  Picture1.ForEach([this](PictureBox& panel) {
+    const int index = panel.Index();
+    panel.MouseMove = [this, index](int b, int s, float x, float y) {
+      Picture1_MouseMove(index, b, s, x, y);
+    };
+    panel.MouseDown = [this, index](int b, int s, float x, float y) {
+      Picture1_MouseDown(index, b, s, x, y);
+    };
+  });
+  Label1.ForEach([this](Label& label) {
+    label.MouseMove = [this](int, int, float, float) { Label_MouseMove(); };
+  });
+  for (Label* label : {&Label2, &Label3, &Label4, &Label5, &Label7, &Label8, &Label9, &Label10}) {
+    label->MouseMove = [this](int, int, float, float) { Label_MouseMove(); };
+  }
+  Text6.ForEach([this](TextBox& box) {
+    const int index = box.Index();
+    box.MouseMove = [this, index](int, int, float, float) { Text6_MouseMove(index); };
+  });
+
+  // The span of the columns and the precision of the texts.
+  mnuCM.ForEach([this](Menu& entry) {
+    const int span = entry.Index();
+    entry.Click = [this, span] { mnuCM_Click(span); };
+  });
+  mnuLink.Click = [this] { mnuLink_Click(); };
+  mnuDepPrec.ForEach([this](Menu& entry) {
+    const int digits = entry.Index();
+    entry.Click = [this, digits] { mnuDepPrec_Click(digits); };
+  });
+  mnuAgePrec.ForEach([this](Menu& entry) {
+    const int digits = entry.Index();
+    entry.Click = [this, digits] { mnuAgePrec_Click(digits); };
+  });
+}
+
+}  // namespace ostraline

@@ -1,0 +1,25 @@
+#pragma once
+// Which version of the program and of each imported file is in use. Label1
+// and Label2 are indexed by file: 1 correlation model, 3 event layers, 4
+// age-depth model, 5 varve counts.
+#include "forms/controls.h"
+#include "forms/form.h"
+
+namespace ostraline {
+
+class FrmVersion : public Form {
+ public:
+  FrmVersion();
+
+  Label Label3{*this, "Label3"};
+  Label Label4{*this, "Label4"};
+  ControlArray<Label> Label1{*this, "Label1"};
+  ControlArray<Label> Label2{*this, "Label2"};
+
+  void Form_Load() override;
+  void Form_Resize() override;
+};
+
+inline FormRef<FrmVersion> frmVersion{"frmVersion"};
+
+}  // namespace ostraline

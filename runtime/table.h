@@ -1,0 +1,112 @@
+#pragma once
+// Tables with explicit bounds per dimension. Reading or writing outside the
+// bounds, or in a table never dimensioned, is a subscript failure.
+#include <array>
+#include <cstddef>
+#include <deque>
+#include <initializer_list>
+#include <type_traits>
+#include <vector>
+
+#include "runtime/checked_int.h"
+#include "runtime/failure.h"
+
+namespace ostraline {
+
+struct Bounds {
+  long lo;
+  long hi;
+};
+
+template <class T, int Rank = 1>
+class Table {
+ public:
+  Table() = default;
+
+  // Dimension anew: all contents are dropped.
+  void Dim(std::initializer_list<Bounds> bounds) {
+    if (static_cast<int>(bounds.size()) != Rank) Fail(FailureKind::SubscriptOutOfRange, "rank");
+    int d = 0;
+    for (const Bounds& b : bounds) bounds_[d++] = b;
+    allocated_ = true;
+    // Default-constructed, not copied: a model's table holds some 360000 cells.
+    data_.clear();
+    data_.resize(Capacity());
+  }
+  // Convenience for the common "0..hi" in every dimension.
+  template <class... Hi>
+  void DimUpper(Hi... hi) {
+    static_assert(sizeof...(Hi) == Rank);
+    Dim({Bounds{0, static_cast<long>(hi)}...});
+  }
+
+  // Keeps what is there; only the upper bound of the last dimension may change.
+  void ReDimPreserve(long lastHi) {
+    if (!allocated_) {
+      Fail(FailureKind::SubscriptOutOfRange, "preserve of an undimensioned table");
+    }
+    bounds_[Rank - 1].hi = lastHi;
+    data_.resize(Capacity());
+  }
+
+  void Erase() {
+    allocated_ = false;
+    data_.clear();
+  }
+
+  bool Allocated() const { return allocated_; }
+  long LBound(int dim = 1) const { return Dimension(dim).lo; }
+  long UBound(int dim = 1) const { return Dimension(dim).hi; }
+
+  template <class... Ix>
+  T& operator()(Ix... ix) {
+    static_assert(sizeof...(Ix) == Rank, "wrong number of subscripts");
+    return data_[Offset({Subscript(ix)...})];
+  }
+  template <class... Ix>
+  const T& operator()(Ix... ix) const {
+    static_assert(sizeof...(Ix) == Rank, "wrong number of subscripts");
+    return data_[Offset({Subscript(ix)...})];
+  }
+
+ private:
+  // A fractional subscript is rounded the language's way (half to even), not cut.
+  template <class I>
+  static long Subscript(I ix) {
+    if constexpr (std::is_floating_point_v<I>) {
+      return CLng(ix);
+    } else {
+      return static_cast<long>(ix);
+    }
+  }
+  const Bounds& Dimension(int dim) const {
+    if (!allocated_ || dim < 1 || dim > Rank) Fail(FailureKind::SubscriptOutOfRange);
+    return bounds_[dim - 1];
+  }
+  std::size_t Capacity() const {
+    std::size_t n = 1;
+    for (const Bounds& b : bounds_)
+      n *= b.hi >= b.lo ? static_cast<std::size_t>(b.hi - b.lo + 1) : 0;
+    return n;
+  }
+  // The first subscript varies fastest, so that the last can grow in place.
+  std::size_t Offset(std::array<long, Rank> ix) const {
+    if (!allocated_) Fail(FailureKind::SubscriptOutOfRange, "table not dimensioned");
+    std::size_t offset = 0;
+    std::size_t stride = 1;
+    for (int d = 0; d < Rank; ++d) {
+      const Bounds& b = bounds_[d];
+      if (ix[d] < b.lo || ix[d] > b.hi) Fail(FailureKind::SubscriptOutOfRange);
+      offset += static_cast<std::size_t>(ix[d] - b.lo) * stride;
+      stride *= static_cast<std::size_t>(b.hi - b.lo + 1);
+    }
+    return offset;
+  }
+
+  std::array<Bounds, Rank> bounds_{};
+  bool allocated_ = false;
+  // vector<bool> hands out no references; a deque of bool does.
+  std::conditional_t<std::is_same_v<T, bool>, std::deque<bool>, std::vector<T>> data_;
+};
+
+}  // namespace ostraline

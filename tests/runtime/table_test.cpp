@@ -1,0 +1,123 @@
+#include "runtime/table.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "runtime/failure.h"
+
+namespace ostraline {
+namespace {
+
+bool FailsOutOfRange(auto statement) {
+  try {
+    statement();
+  } catch (const RuntimeFailure& failure) {
+    return failure.Kind() == FailureKind::SubscriptOutOfRange;
+  }
+  return false;
+}
+
+TEST(TableTest, boundsAreExplicitPerDimension) {
+  Table<int, 2> t;
+  t.Dim({{-2, 3}, {5, 7}});
+  EXPECT_EQ(t.LBound(1), -2);
+  EXPECT_EQ(t.UBound(1), 3);
+  EXPECT_EQ(t.LBound(2), 5);
+  EXPECT_EQ(t.UBound(2), 7);
+  for (int i = -2; i <= 3; ++i) {
+    for (int j = 5; j <= 7; ++j) t(i, j) = 10 * i + j;
+  }
+  // Every cell is its own: no two subscripts share storage.
+  for (int i = -2; i <= 3; ++i) {
+    for (int j = 5; j <= 7; ++j) EXPECT_EQ(t(i, j), 10 * i + j);
+  }
+  EXPECT_TRUE(FailsOutOfRange([&] { t(-3, 5); }));
+  EXPECT_TRUE(FailsOutOfRange([&] { t(4, 5); }));
+  EXPECT_TRUE(FailsOutOfRange([&] { t(0, 4); }));
+  EXPECT_TRUE(FailsOutOfRange([&] { t(0, 8) = 1; }));
+  EXPECT_TRUE(FailsOutOfRange([&] { t.UBound(3); }));
+  EXPECT_TRUE(FailsOutOfRange([&] { t.Dim({{0, 1}}); }));
+
+  // Dimensioning anew drops the contents.
+  t.DimUpper(1, 1);
+  EXPECT_EQ(t.LBound(1), 0);
+  EXPECT_EQ(t(1, 1), 0);
+}
+
+TEST(TableTest, undimensionedTableFails) {
+  Table<std::string> t;
+  EXPECT_FALSE(t.Allocated());
+  EXPECT_TRUE(FailsOutOfRange([&] { t(0); }));
+  EXPECT_TRUE(FailsOutOfRange([&] { t.UBound(); }));
+  EXPECT_TRUE(FailsOutOfRange([&] { t.ReDimPreserve(3); }));
+  t.Dim({{1, 2}});
+  t(2) = "b";
+  t.Erase();
+  EXPECT_TRUE(FailsOutOfRange([&] { t(2); }));
+}
+
+TEST(TableTest, reDimPreserveKeepsContentsWhenTheLastDimensionChanges) {
+  Table<std::string, 3> t;
+  t.Dim({{0, 1}, {1, 2}, {0, 1}});
+  for (int a = 0; a <= 1; ++a) {
+    for (int b = 1; b <= 2; ++b) {
+      for (int c = 0; c <= 1; ++c)
+        t(a, b, c) = std::to_string(a) + std::to_string(b) + std::to_string(c);
+    }
+  }
+  t.ReDimPreserve(4);
+  EXPECT_EQ(t.UBound(3), 4);
+  for (int a = 0; a <= 1; ++a) {
+    for (int b = 1; b <= 2; ++b) {
+      for (int c = 0; c <= 1; ++c) {
+        EXPECT_EQ(t(a, b, c), std::to_string(a) + std::to_string(b) + std::to_string(c));
+      }
+      EXPECT_EQ(t(a, b, 4), "");
+    }
+  }
+  // Shrinking keeps what is left.
+  t.ReDimPreserve(0);
+  EXPECT_EQ(t(1, 2, 0), "120");
+  EXPECT_TRUE(FailsOutOfRange([&] { t(1, 2, 1); }));
+
+  Table<double> row;
+  row.Dim({{1, 1}});
+  row(1) = 2.5;
+  for (long hi = 2; hi <= 100; ++hi) {
+    row.ReDimPreserve(hi);
+    row(hi) = hi;
+  }
+  EXPECT_EQ(row(1), 2.5);
+  EXPECT_EQ(row(100), 100.0);
+}
+
+TEST(TableTest, boolTablesAndFractionalSubscripts) {
+  Table<bool> flags;
+  flags.Dim({{1, 4}});
+  flags(2) = true;
+  bool& third = flags(3);
+  third = true;
+  EXPECT_FALSE(flags(1));
+  EXPECT_TRUE(flags(2));
+  EXPECT_TRUE(flags(3));
+  flags.ReDimPreserve(6);
+  EXPECT_TRUE(flags(3));
+  EXPECT_FALSE(flags(6));
+
+  // A fractional subscript is rounded half to even, as a whole-number conversion is.
+  Table<int> t;
+  t.Dim({{0, 3}});
+  t(1) = 1;
+  t(2) = 2;
+  t(3) = 3;
+  EXPECT_EQ(t(1.6), 2);
+  EXPECT_EQ(t(2.5), 2);
+  EXPECT_EQ(t(2.5f), 2);
+  EXPECT_EQ(t(0.5), 0);
+  EXPECT_EQ(t(1.4999), 1);
+  EXPECT_TRUE(FailsOutOfRange([&] { t(3.5); }));
+}
+
+}  // namespace
+}  // namespace ostraline
