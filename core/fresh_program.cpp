@@ -1,5 +1,6 @@
 #include "core/fresh_program.h"
 
+#include "core/bore_hole_set.h"
 #include "core/project_state.h"
 #include "display/display_state.h"
 #include "events/batch_state.h"
@@ -11,6 +12,7 @@ namespace ostraline {
 void ResetProgramState() {
   FormSlot::ResetAll();
   coreState = CoreState{};
+  masterSet = BoreHoleSet(kMasterHoleNames);
   displayState = DisplayState{};
   eventState = EventState{};
   batchState = BatchState{};

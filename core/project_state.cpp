@@ -5,14 +5,6 @@
 namespace ostraline {
 
 CoreState::CoreState() {
-  HoleName.DimUpper(4);
-  HoleName(1) = "A";
-  HoleName(2) = "B";
-  HoleName(3) = "C";
-  HoleName(4) = "D";
-  HoleTitle.DimUpper(4);
-  SectionCount.DimUpper(4);
-  CoreBottom.DimUpper(4);
   SectionTieList.Dim({{1, 50}, {0, 2}});
 }
 

@@ -1,10 +1,12 @@
 #pragma once
 // The project state of the core model: module-level tables and scalars that
-// every form reads and writes directly. They live in one struct so that a
-// fresh program (or a test) can start from the defaults; the names below are
-// references to its members.
+// every form reads and writes directly. They live in structs so that a fresh
+// program (or a test) can start from the defaults; the names below are
+// references to their members: the master's set of bore holes, and the
+// scalars that the whole program shares.
 #include <string>
 
+#include "core/bore_hole_set.h"
 #include "runtime/checked_int.h"
 #include "runtime/table.h"
 #include "runtime/variant.h"
@@ -14,27 +16,10 @@ namespace ostraline {
 struct CoreState {
   CoreState();
 
-  // The correlation model: Scale 0..3, Hole 0..5, Item 0..2, Row 0..LastRow.
-  Table<std::string, 4> ModelCell;
-  // Scale 0..3, Row 0..LastRow: splice column, composite depth, EFD, age.
-  Table<std::string, 2> TieCell;
-  Long LastRow = 0;
-  Table<std::string> HoleName;   // 1..4
-  Table<std::string> HoleTitle;  // 1..4
-  Table<Integer> SectionCount;   // 1..4
-  Table<std::string, 2> SectionName;
-  Table<Integer, 2> SectionTopRow;
-  Table<Integer, 2> SectionBottomRow;
-  Table<Single> CoreBottom;  // 1..4
-  Single DeepestBottom = 0;
-  std::string ModelVersion;
-
   Integer DepthAxis = 1;
   Integer DepthPrecision = 2;
   Integer AgePrecision = 0;
-  Integer DrivenBy = 9999;
   Integer ActionCount = 0;
-  Integer DriveIndex = 1;
   BooleanFlag DuoOpen = false;
   Single TargetPSP = 0;
   Single TargetDepth = 0;
@@ -47,10 +32,6 @@ struct CoreState {
   Long J = 0;
   Integer K = 0;
 
-  std::string EventListVersion;
-  std::string AgeModelVersion;
-  std::string VarveVersion;
-
   // The working rows of CompositeFromTrinity; nothing else reads them.
   Integer TopRowFound = 0;
   Integer TieRowPrevious = 0;
@@ -59,9 +40,6 @@ struct CoreState {
   Table<Variant, 2> SectionTieList;  // 1..50, 0..2
 
   // The target horizon's protocol.
-  std::string SavedText2;
-  std::string SavedText3;
-  std::string SavedText4;
   BooleanFlag EfdEntryActive = false;
   std::string HoleKey;
   BooleanFlag SuspendTrinity = false;
@@ -69,24 +47,24 @@ struct CoreState {
 
 inline CoreState coreState;
 
-inline auto& ModelCell = coreState.ModelCell;
-inline auto& TieCell = coreState.TieCell;
-inline auto& LastRow = coreState.LastRow;
-inline auto& HoleName = coreState.HoleName;
-inline auto& HoleTitle = coreState.HoleTitle;
-inline auto& SectionCount = coreState.SectionCount;
-inline auto& SectionName = coreState.SectionName;
-inline auto& SectionTopRow = coreState.SectionTopRow;
-inline auto& SectionBottomRow = coreState.SectionBottomRow;
-inline auto& CoreBottom = coreState.CoreBottom;
-inline auto& DeepestBottom = coreState.DeepestBottom;
-inline auto& ModelVersion = coreState.ModelVersion;
+inline auto& ModelCell = masterSet.ModelCell;
+inline auto& TieCell = masterSet.TieCell;
+inline auto& LastRow = masterSet.LastRow;
+inline auto& HoleName = masterSet.HoleName;
+inline auto& HoleTitle = masterSet.HoleTitle;
+inline auto& SectionCount = masterSet.SectionCount;
+inline auto& SectionName = masterSet.SectionName;
+inline auto& SectionTopRow = masterSet.SectionTopRow;
+inline auto& SectionBottomRow = masterSet.SectionBottomRow;
+inline auto& CoreBottom = masterSet.CoreBottom;
+inline auto& DeepestBottom = masterSet.DeepestBottom;
+inline auto& ModelVersion = masterSet.ModelVersion;
 inline auto& DepthAxis = coreState.DepthAxis;
 inline auto& DepthPrecision = coreState.DepthPrecision;
 inline auto& AgePrecision = coreState.AgePrecision;
-inline auto& DrivenBy = coreState.DrivenBy;
+inline auto& DrivenBy = masterSet.DrivenBy;
 inline auto& ActionCount = coreState.ActionCount;
-inline auto& DriveIndex = coreState.DriveIndex;
+inline auto& DriveIndex = masterSet.DriveIndex;
 inline auto& DuoOpen = coreState.DuoOpen;
 inline auto& TargetPSP = coreState.TargetPSP;
 inline auto& TargetDepth = coreState.TargetDepth;
@@ -97,16 +75,16 @@ inline auto& DebugTrace = coreState.DebugTrace;
 inline auto& I = coreState.I;
 inline auto& J = coreState.J;
 inline auto& K = coreState.K;
-inline auto& EventListVersion = coreState.EventListVersion;
-inline auto& AgeModelVersion = coreState.AgeModelVersion;
-inline auto& VarveVersion = coreState.VarveVersion;
+inline auto& EventListVersion = masterSet.EventListVersion;
+inline auto& AgeModelVersion = masterSet.AgeModelVersion;
+inline auto& VarveVersion = masterSet.VarveVersion;
 inline auto& TopRowFound = coreState.TopRowFound;
 inline auto& TieRowPrevious = coreState.TieRowPrevious;
 inline auto& TieRowLast = coreState.TieRowLast;
 inline auto& SectionTieList = coreState.SectionTieList;
-inline auto& SavedText2 = coreState.SavedText2;
-inline auto& SavedText3 = coreState.SavedText3;
-inline auto& SavedText4 = coreState.SavedText4;
+inline auto& SavedText2 = masterSet.SavedText2;
+inline auto& SavedText3 = masterSet.SavedText3;
+inline auto& SavedText4 = masterSet.SavedText4;
 inline auto& EfdEntryActive = coreState.EfdEntryActive;
 inline auto& HoleKey = coreState.HoleKey;
 inline auto& SuspendTrinity = coreState.SuspendTrinity;

@@ -53,9 +53,11 @@ struct ImportedModel {
     ostraline::frmMain->Command1_Click();
     Require(platform.messages.empty());
     state = ostraline::coreState;
+    set = ostraline::masterSet;
   }
   ostraline::ScriptedPlatform& platform;
   ostraline::CoreState state;
+  ostraline::BoreHoleSet set = ostraline::masterSet;
 };
 
 }  // namespace
@@ -66,6 +68,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   // Each input starts where the model's import left the program: the event
   // import writes the EFD into the model's tables and shuts its own button.
   coreState = model.state;
+  masterSet = model.set;
   eventState = EventState{};
   frmMain->Command3.Enabled = true;
   ScriptedPlatform& platform = model.platform;

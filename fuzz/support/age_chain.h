@@ -78,6 +78,7 @@ class AgeChain {
       Require(AgeModelLoaded && AgeModelCount == 4 && EventCount == 2, "fixed age model failed");
     }
     core_ = coreState;
+    set_ = masterSet;
     events_ = eventState;
     FrmMain& form = *frmMain;
     texts_[0] = form.Text2.Text;
@@ -89,6 +90,7 @@ class AgeChain {
     platform_ = std::make_unique<ScriptedPlatform>();
     SetPlatform(platform_.get());
     coreState = core_;
+    masterSet = set_;
     eventState = events_;
     FrmMain& form = *frmMain;
     form.Text2.Text.SetQuietly(texts_[0]);
@@ -101,6 +103,7 @@ class AgeChain {
 
  private:
   CoreState core_;
+  BoreHoleSet set_ = masterSet;
   EventState events_;
   std::string texts_[3];
   std::unique_ptr<ScriptedPlatform> platform_;
