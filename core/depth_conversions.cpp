@@ -10,90 +10,92 @@
 namespace ostraline {
 namespace {
 
-double Psp(int hole, long row) {
-  return CDbl(ModelCell(0, hole, 1, row));
+double Psp(BoreHoleSet& set, int hole, long row) {
+  return CDbl(set.ModelCell(0, hole, 1, row));
 }
-double Cd(long row) {
-  return CDbl(TieCell(1, row));
+double Cd(BoreHoleSet& set, long row) {
+  return CDbl(set.TieCell(1, row));
 }
 
 // The section's rows with a PSP go to the divider's two lists and to
 // SectionTieList; returns how many rows were used.
-long FillDividerLists(int hole) {
+long FillDividerLists(BoreHoleSet& set, int hole) {
   FrmDivider& divider = *frmDivider;
   divider.Combo1(0).Clear();
   divider.Combo1(1).Clear();
   long used = 0;
   for (long r = TargetTopRow;; ++r) {
-    const std::string& label = ModelCell(0, hole, 0, r);
-    if (ModelCell(0, hole, 1, r) != "9999") {
+    const std::string& label = set.ModelCell(0, hole, 0, r);
+    if (set.ModelCell(0, hole, 1, r) != "9999") {
       divider.Combo1(0).AddItem(label);
       divider.Combo1(1).AddItem(label);
       ++used;
       SectionTieList(used, 0) = label;
-      SectionTieList(used, 1) = ModelCell(0, hole, 1, r);
-      SectionTieList(used, 2) = TieCell(1, r);
+      SectionTieList(used, 1) = set.ModelCell(0, hole, 1, r);
+      SectionTieList(used, 2) = set.TieCell(1, r);
     }
     if (IsSectionBottom(label)) break;
   }
   // The other forms take the section's name from this caption less its first two characters.
   divider.Label5.Caption =
-      HoleName(hole) + "-" +
-      SectionName(hole, static_cast<long>(SectionOrdinalOfRow(hole, TargetTopRow).ToDouble()));
+      set.HoleName(hole) + "-" +
+      set.SectionName(hole,
+                      static_cast<long>(SectionOrdinalOfRow(set, hole, TargetTopRow).ToDouble()));
   return used;
 }
 
 }  // namespace
 
-Variant CompositeFromTrinity(int hole, int section, Single psp) {
+Variant CompositeFromTrinity(BoreHoleSet& set, int hole, int section, Single psp) {
   try {
     if (hole == 0 || psp == 9999 || psp == -9999 || section == 9999 || section == -9999 ||
-        section > SectionCount(hole) || LastRow < 1) {
+        section > set.SectionCount(hole) || set.LastRow < 1) {
       return Integer(9999);
     }
     TopRowFound = 0;
     TieRowPrevious = 0;
     TieRowLast = 0;
     int count = 0;
-    TopRowFound = SectionTopRow(hole, section);
+    TopRowFound = set.SectionTopRow(hole, section);
     // The top row counts by its composite depth alone.
-    if (Cd(TopRowFound) != 9999) {
+    if (Cd(set, TopRowFound) != 9999) {
       TieRowLast = TopRowFound;
       count = 1;
     }
     bool left = false;
-    for (long r = TopRowFound + 1; r <= LastRow; ++r) {
-      const double rowPsp = Psp(hole, r);
-      const double rowCd = Cd(r);
+    for (long r = TopRowFound + 1; r <= set.LastRow; ++r) {
+      const double rowPsp = Psp(set, hole, r);
+      const double rowCd = Cd(set, r);
       // A row with PSP exactly 0 below the top is never a tie.
       if (rowPsp != 9999 && rowCd != 9999 && rowPsp != 0) {
         TieRowPrevious = TieRowLast;
         TieRowLast = static_cast<int>(r);
         ++count;
       }
-      if (CSng(Psp(hole, TieRowLast)) >= psp && rowCd != 9999 && TieRowPrevious != 0) {
+      if (CSng(Psp(set, hole, TieRowLast)) >= psp && rowCd != 9999 && TieRowPrevious != 0) {
         left = true;
         break;
       }
-      if (IsSectionBottom(ModelCell(0, hole, 0, r))) {
+      if (IsSectionBottom(set.ModelCell(0, hole, 0, r))) {
         left = true;
         break;
       }
     }
     if (!left || count == 0) return Variant();
     const double p = psp;
-    if (count == 1) return Cd(TieRowLast) + (p - Psp(hole, TieRowLast));
+    if (count == 1) return Cd(set, TieRowLast) + (p - Psp(set, hole, TieRowLast));
     const int a = TieRowPrevious;
     const int b = TieRowLast;
     auto interpolation = [&] {
-      return Cd(a) + (p - Psp(hole, a)) * Divide(Cd(b) - Cd(a), Psp(hole, b) - Psp(hole, a));
+      return Cd(set, a) + (p - Psp(set, hole, a)) * Divide(Cd(set, b) - Cd(set, a),
+                                                           Psp(set, hole, b) - Psp(set, hole, a));
     };
     FrmMain& form = *frmMain;
     if (form.Option4(0).Value) return interpolation();
     if (form.Option4(1).Value) {
-      if (CSng(Psp(hole, a)) > psp) return Cd(a) + (p - Psp(hole, a));
-      if (CSng(Psp(hole, b)) >= psp) return interpolation();
-      return Cd(b) + (p - Psp(hole, b));
+      if (CSng(Psp(set, hole, a)) > psp) return Cd(set, a) + (p - Psp(set, hole, a));
+      if (CSng(Psp(set, hole, b)) >= psp) return interpolation();
+      return Cd(set, b) + (p - Psp(set, hole, b));
     }
     return Variant();
   } catch (const RuntimeFailure&) {
@@ -101,7 +103,7 @@ Variant CompositeFromTrinity(int hole, int section, Single psp) {
   }
 }
 
-void GetPSP(int hole, Single target) {
+void GetPSP(BoreHoleSet& set, int hole, Single target) {
   FrmMain& form = *frmMain;
   if (form.Command1.Enabled) return;
   try {
@@ -109,16 +111,17 @@ void GetPSP(int hole, Single target) {
     TargetTopRow = 0;
     long found = 0;
     long lastTie = 0;
-    for (long r = 1; r <= LastRow && found == 0; ++r) {
-      const std::string& label = ModelCell(0, hole, 0, r);
+    for (long r = 1; r <= set.LastRow && found == 0; ++r) {
+      const std::string& label = set.ModelCell(0, hole, 0, r);
       if (IsSectionTop(label)) TargetTopRow = static_cast<int>(r);
-      if (Val(ModelCell(1, hole, 2, r)) != 9999 && Cd(r) != 9999) lastTie = r;
+      if (Val(set.ModelCell(1, hole, 2, r)) != 9999 && Cd(set, r) != 9999) lastTie = r;
       if (IsSectionBottom(label)) {
-        const double e = Val(ModelCell(0, hole, 1, r)) - Val(ModelCell(0, hole, 1, lastTie));
-        if (form.Option2(1).Value && CSng(Cd(lastTie) + e) > target) {
+        const double e =
+            Val(set.ModelCell(0, hole, 1, r)) - Val(set.ModelCell(0, hole, 1, lastTie));
+        if (form.Option2(1).Value && CSng(Cd(set, lastTie) + e) > target) {
           found = r;
         } else if (form.Option2(0).Value &&
-                   CSng(CDbl(ModelCell(0, hole, 2, lastTie)) + e) > target) {
+                   CSng(CDbl(set.ModelCell(0, hole, 2, lastTie)) + e) > target) {
           found = r;
         }
       }
@@ -134,40 +137,41 @@ void GetPSP(int hole, Single target) {
       for (;;) {
         ++r;
         const bool inReach = composite ? r <= found : r < found;
-        if (ModelCell(0, hole, 1, r) != "9999" && inReach && TieCell(1, r) != "9999") {
+        if (set.ModelCell(0, hole, 1, r) != "9999" && inReach && set.TieCell(1, r) != "9999") {
           TieRowAbove = TieRowBelow;
           TieRowBelow = static_cast<int>(r);
         }
-        const bool good =
-            TieCell(1, r) != "9999" && ModelCell(0, hole, 2, r) != "9999" && CSng(Cd(r)) > target;
+        const bool good = set.TieCell(1, r) != "9999" && set.ModelCell(0, hole, 2, r) != "9999" &&
+                          CSng(Cd(set, r)) > target;
         if (good && TieRowAbove > 0) break;
         if (composite && r >= found) break;
       }
     }
 
     long used = -1;
-    if (DrivenBy != 8) used = FillDividerLists(hole);
+    if (set.DrivenBy != 8) used = FillDividerLists(set, hole);
 
     TargetDepth = form.BoreHole(hole).ScaleTop + static_cast<float>(ViewSpan) / 2.0f;
     if (composite) {
       const int a = TieRowAbove;
       const int b = TieRowBelow;
       auto interpolation = [&] {
-        return Psp(hole, a) +
-               (TargetDepth - Cd(a)) * Divide(Psp(hole, b) - Psp(hole, a), Cd(b) - Cd(a));
+        return Psp(set, hole, a) +
+               (TargetDepth - Cd(set, a)) *
+                   Divide(Psp(set, hole, b) - Psp(set, hole, a), Cd(set, b) - Cd(set, a));
       };
       if (form.Option4(0).Value) {
         TargetPSP = CSng(interpolation());
-      } else if (CSng(Cd(b)) < TargetDepth) {
-        TargetPSP = CSng(Psp(hole, b) - (Cd(b) - TargetDepth));
-      } else if (CSng(Cd(a)) > TargetDepth) {
-        TargetPSP = CSng(Psp(hole, a) + (TargetDepth - Cd(a)));
+      } else if (CSng(Cd(set, b)) < TargetDepth) {
+        TargetPSP = CSng(Psp(set, hole, b) - (Cd(set, b) - TargetDepth));
+      } else if (CSng(Cd(set, a)) > TargetDepth) {
+        TargetPSP = CSng(Psp(set, hole, a) + (TargetDepth - Cd(set, a)));
       } else {
         TargetPSP = CSng(interpolation());
       }
     } else if (drilling) {
       // The drilling depth of the section's top is the origin of the PSP.
-      TargetPSP = CSng(target - CDbl(ModelCell(0, hole, 2, TargetTopRow)));
+      TargetPSP = CSng(target - CDbl(set.ModelCell(0, hole, 2, TargetTopRow)));
     }
 
     form.BoreHole(hole).ToolTipText = "Target depth: " + Str(TargetPSP) + " (cm)";

@@ -5,35 +5,35 @@
 
 namespace ostraline {
 
-Integer BHNo(const std::string& letter) {
+Integer BHNo(BoreHoleSet& set, const std::string& letter) {
   for (int hole = 1; hole <= 4; ++hole) {
-    if (HoleName(hole) == letter) return hole;
+    if (set.HoleName(hole) == letter) return hole;
   }
   return -9999;
 }
 
-Variant GetBH(const std::string& letter) {
+Variant GetBH(BoreHoleSet& set, const std::string& letter) {
   Variant result = 9999;
   for (int hole = 1; hole <= 4; ++hole) {
-    if (HoleName(hole) == letter) result = hole;
+    if (set.HoleName(hole) == letter) result = hole;
   }
   return result;
 }
 
-Variant AlphaNum(const Variant& letter) {
+Variant AlphaNum(BoreHoleSet& set, const Variant& letter) {
   const std::string text = letter.ToText();
   for (int hole = 1; hole <= 4; ++hole) {
-    if (HoleName(hole) == text) return hole;
+    if (set.HoleName(hole) == text) return hole;
   }
   return 1;
 }
 
-Integer SectionOrdinalByName(int hole, const std::string& name) {
+Integer SectionOrdinalByName(BoreHoleSet& set, int hole, const std::string& name) {
   if (hole == 9999 || hole == -9999 || name == "9999" || name == "-9999") return 9999;
   try {
     const std::string wanted = Right("000" + name, 3);
-    for (int i = 1; i <= SectionCount(hole); ++i) {
-      const std::string& candidate = SectionName(hole, i);
+    for (int i = 1; i <= set.SectionCount(hole); ++i) {
+      const std::string& candidate = set.SectionName(hole, i);
       if (name == candidate || Right("000" + candidate, 3) == wanted) return i;
     }
   } catch (const RuntimeFailure&) {
@@ -41,10 +41,10 @@ Integer SectionOrdinalByName(int hole, const std::string& name) {
   return 9999;
 }
 
-Variant SectionOrdinalOfRow(int hole, int topRow) {
+Variant SectionOrdinalOfRow(BoreHoleSet& set, int hole, int topRow) {
   Long count = 0;
   for (int row = 0; row <= topRow; ++row) {
-    if (IsSectionTop(ModelCell(0, hole, 0, row))) ++count;
+    if (IsSectionTop(set.ModelCell(0, hole, 0, row))) ++count;
   }
   return count;
 }

@@ -27,30 +27,30 @@ constexpr int kEfd = 11;
 
 // Comparisons are made single with single, arithmetic in double; a cell that
 // is no number fails either way.
-Single CellSingle(int column, long row) {
-  return CSng(AgeModel(column, row));
+Single CellSingle(BoreHoleSet& set, int column, long row) {
+  return CSng(set.AgeModel(column, row));
 }
-double CellDouble(int column, long row) {
-  return CDbl(AgeModel(column, row));
+double CellDouble(BoreHoleSet& set, int column, long row) {
+  return CDbl(set.AgeModel(column, row));
 }
 
 // The pair of rows around x in one column. The scan does not stop at a hit,
 // so in a table that is not monotonic the last hit counts; beyond either end
 // the end pair holds, and that is all the extrapolation of age there is.
-void BracketSearch(int column, Single x, Integer& lower, Integer& upper) {
-  for (long i = 1; i <= AgeModelCount - 1; ++i) {
+void BracketSearch(BoreHoleSet& set, int column, Single x, Integer& lower, Integer& upper) {
+  for (long i = 1; i <= set.AgeModelCount - 1; ++i) {
     // Both cells are read whatever the first test gives.
-    const bool atOrAbove = CellSingle(column, i) <= x;
-    const bool nextBelow = CellSingle(column, i + 1) > x;
+    const bool atOrAbove = CellSingle(set, column, i) <= x;
+    const bool nextBelow = CellSingle(set, column, i + 1) > x;
     if (atOrAbove && nextBelow) {
       lower = i;
       upper = i + 1;
     }
   }
-  if (CellSingle(column, 1) <= x) {
-    if (CellSingle(column, AgeModelCount) <= x) {
-      lower = AgeModelCount - 1;
-      upper = AgeModelCount.Get();
+  if (CellSingle(set, column, 1) <= x) {
+    if (CellSingle(set, column, set.AgeModelCount) <= x) {
+      lower = set.AgeModelCount - 1;
+      upper = set.AgeModelCount.Get();
     }
   } else {
     lower = 1;
@@ -60,77 +60,78 @@ void BracketSearch(int column, Single x, Integer& lower, Integer& upper) {
 
 // A column's value at the lower row plus its difference to the upper row
 // times part / whole, computed in this order.
-double Between(int column, long lower, long upper, double part, double whole) {
-  const double low = CellDouble(column, lower);
-  return low + Divide((CellDouble(column, upper) - low) * part, whole);
+double Between(BoreHoleSet& set, int column, long lower, long upper, double part, double whole) {
+  const double low = CellDouble(set, column, lower);
+  return low + Divide((CellDouble(set, column, upper) - low) * part, whole);
 }
 
-void ErrorsBetween(long lower, long upper, double part, double whole) {
-  AgeErrorPlus = CSng(Between(kErrorPlus, lower, upper, part, whole));
-  AgeErrorMinus = CSng(Between(kErrorMinus, lower, upper, part, whole));
+void ErrorsBetween(BoreHoleSet& set, long lower, long upper, double part, double whole) {
+  set.AgeErrorPlus = CSng(Between(set, kErrorPlus, lower, upper, part, whole));
+  set.AgeErrorMinus = CSng(Between(set, kErrorMinus, lower, upper, part, whole));
 }
 
-void SayInterpolatedBy(const char* caption) {
-  if (DriveIndex != 0) frmMain->Label9.Caption = caption;
+void SayInterpolatedBy(BoreHoleSet& set, const char* caption) {
+  if (set.DriveIndex != 0) frmMain->Label9.Caption = caption;
 }
 
 // The varve record must span both rows of the pair, not only the point looked up.
-bool VarvesSpanPair(int column, Single top, Single bottom) {
-  const bool lowerOutside = CellSingle(column, AgeRowLower) < top;
-  const bool upperOutside = CellSingle(column, AgeRowUpper) > bottom;
+bool VarvesSpanPair(BoreHoleSet& set, int column, Single top, Single bottom) {
+  const bool lowerOutside = CellSingle(set, column, set.AgeRowLower) < top;
+  const bool upperOutside = CellSingle(set, column, set.AgeRowUpper) > bottom;
   return !lowerOutside && !upperOutside;
 }
 
-VarveSums VarveSumsInPair(Single cd) {
-  return VarveSumsAt(cd, CellSingle(kDepth, AgeRowLower), CellSingle(kDepth, AgeRowUpper));
+VarveSums VarveSumsInPair(BoreHoleSet& set, Single cd) {
+  return VarveSumsAt(set, cd, CellSingle(set, kDepth, set.AgeRowLower),
+                     CellSingle(set, kDepth, set.AgeRowUpper));
 }
 
-Variant AgeByEfd(Single efd) {
-  const double efdLower = CellDouble(kEfd, AgeRowLower);
+Variant AgeByEfd(BoreHoleSet& set, Single efd) {
+  const double efdLower = CellDouble(set, kEfd, set.AgeRowLower);
   const double part = static_cast<double>(efd) - efdLower;
-  const double whole = CellDouble(kEfd, AgeRowUpper) - efdLower;
-  const double age = Between(kAge, AgeRowLower, AgeRowUpper, part, whole);
-  ErrorsBetween(AgeRowLower, AgeRowUpper, part, whole);
-  SayInterpolatedBy("(interpolated by EFD)");
+  const double whole = CellDouble(set, kEfd, set.AgeRowUpper) - efdLower;
+  const double age = Between(set, kAge, set.AgeRowLower, set.AgeRowUpper, part, whole);
+  ErrorsBetween(set, set.AgeRowLower, set.AgeRowUpper, part, whole);
+  SayInterpolatedBy(set, "(interpolated by EFD)");
   return age;
 }
 
-Variant AgeByVarves(const VarveSums& sums) {
+Variant AgeByVarves(BoreHoleSet& set, const VarveSums& sums) {
   const double whole = static_cast<Single>(sums.above + sums.below);
-  const double age = Between(kAge, AgeRowLower, AgeRowUpper, sums.below, whole);
-  ErrorsBetween(AgeRowLower, AgeRowUpper, sums.below, whole);
+  const double age = Between(set, kAge, set.AgeRowLower, set.AgeRowUpper, sums.below, whole);
+  ErrorsBetween(set, set.AgeRowLower, set.AgeRowUpper, sums.below, whole);
   return age;
 }
 
-Variant Sentinel(Single depth) {
-  AgeErrorPlus = depth;
-  AgeErrorMinus = depth;
+Variant Sentinel(BoreHoleSet& set, Single depth) {
+  set.AgeErrorPlus = depth;
+  set.AgeErrorMinus = depth;
   return depth;
 }
 
 // The varve path of the way back, for the pair lower, upper of the ages.
-Variant EfdFromAgeByVarves(Single age, long lower, long upper) {
+Variant EfdFromAgeByVarves(BoreHoleSet& set, Single age, long lower, long upper) {
   // The ages of the two rows as the forward lookup gives them.
-  const Single ageLower = GetAgeFromEFD(CSng(Val(AgeModel(kEfd, lower)))).ToSingle();
-  const Single ageUpper = GetAgeFromEFD(CSng(Val(AgeModel(kEfd, upper)))).ToSingle();
-  const Single offset = VarveOffset(CellSingle(kDepth, lower), CellSingle(kDepth, upper),
-                                    age - ageLower, ageUpper - age);
+  const Single ageLower = GetAgeFromEFD(set, CSng(Val(set.AgeModel(kEfd, lower)))).ToSingle();
+  const Single ageUpper = GetAgeFromEFD(set, CSng(Val(set.AgeModel(kEfd, upper)))).ToSingle();
+  const Single offset = VarveOffset(set, CellSingle(set, kDepth, lower),
+                                    CellSingle(set, kDepth, upper), age - ageLower, ageUpper - age);
   // The depth cells take part in the sums as doubles: the composite depth is
   // narrowed to a single only where it is handed on.
-  const double depthLower = CellDouble(kDepth, lower);
-  const Variant efd = CDToEFD(CSng(depthLower + offset));
+  const double depthLower = CellDouble(set, kDepth, lower);
+  const Variant efd = CDToEFD(set, CSng(depthLower + offset));
   // Here the errors go by depth, not by age.
-  ErrorsBetween(lower, upper, offset, CellDouble(kDepth, upper) - depthLower);
+  ErrorsBetween(set, lower, upper, offset, CellDouble(set, kDepth, upper) - depthLower);
   frmMain->ProgressBar1.Value = 0;
   frmMain->ProgressBar1.Visible = false;
   Screen.SetMousePointer(0);
   return efd;
 }
 
-void ShowUnit(FrmMain& form) {
-  const std::string& unit = AgeModel(kUnit, AgeRowLower);
+void ShowUnit(BoreHoleSet& set, FrmMain& form) {
+  const std::string& unit = set.AgeModel(kUnit, set.AgeRowLower);
   // Two control points in different units: no single unit can be named.
-  if (unit != AgeModel(kUnit, AgeRowUpper)) {
+  if (unit != set.AgeModel(kUnit, set.AgeRowUpper)) {
     form.Label7.Caption = "Age (Hybrid unit)";
   } else {
     form.Label7.Caption = "Age (" + unit + ")";
@@ -139,9 +140,9 @@ void ShowUnit(FrmMain& form) {
 
 // The errors with their confidence levels where the age was looked up from a
 // depth, and bare where it was typed in.
-void ShowErrors(FrmMain& form, bool withLevels) {
-  const double plus = Round(AgeErrorPlus, AgePrecision);
-  const double minus = Round(AgeErrorMinus, AgePrecision);
+void ShowErrors(BoreHoleSet& set, FrmMain& form, bool withLevels) {
+  const double plus = Round(set.AgeErrorPlus, AgePrecision);
+  const double minus = Round(set.AgeErrorMinus, AgePrecision);
   const std::string p = Str(plus);
   const std::string m = Str(minus);
   if (plus != minus) {
@@ -156,72 +157,72 @@ void ShowErrors(FrmMain& form, bool withLevels) {
 
 }  // namespace
 
-Variant GetAgeFromEFD(Single efd) {
-  if (efd == -9999 || efd == 9999) return Sentinel(efd);
-  BracketSearch(kEfd, efd, AgeRowLower, AgeRowUpper);
-  if (!VarveCountsLoaded || efd < VarveTopEFD || efd > VarveBottomEFD ||
-      !VarvesSpanPair(kEfd, VarveTopEFD, VarveBottomEFD)) {
-    return AgeByEfd(efd);
+Variant GetAgeFromEFD(BoreHoleSet& set, Single efd) {
+  if (efd == -9999 || efd == 9999) return Sentinel(set, efd);
+  BracketSearch(set, kEfd, efd, set.AgeRowLower, set.AgeRowUpper);
+  if (!set.VarveCountsLoaded || efd < set.VarveTopEFD || efd > set.VarveBottomEFD ||
+      !VarvesSpanPair(set, kEfd, set.VarveTopEFD, set.VarveBottomEFD)) {
+    return AgeByEfd(set, efd);
   }
-  const VarveSums sums = VarveSumsInPair(EFDToCD(efd).ToSingle());
+  const VarveSums sums = VarveSumsInPair(set, EFDToCD(set, efd).ToSingle());
   Variant age;
   if (static_cast<Single>(sums.below + sums.above) == 0) {
     // No counted varve on either side: the upper row's values.
-    age = Between(kAge, AgeRowLower, AgeRowUpper, 1, 1);
-    ErrorsBetween(AgeRowLower, AgeRowUpper, 1, 1);
+    age = Between(set, kAge, set.AgeRowLower, set.AgeRowUpper, 1, 1);
+    ErrorsBetween(set, set.AgeRowLower, set.AgeRowUpper, 1, 1);
   } else {
-    age = AgeByVarves(sums);
+    age = AgeByVarves(set, sums);
   }
-  SayInterpolatedBy("(interpolated by varve count)");
+  SayInterpolatedBy(set, "(interpolated by varve count)");
   return age;
 }
 
-Variant GetAgeFromCD(Single cd) {
-  if (cd == -9999 || cd == 9999) return Sentinel(cd);
-  if (VarveCountsLoaded && !(cd < VarveTopCD) && !(cd > VarveBottomCD)) {
-    BracketSearch(kDepth, cd, AgeRowLower, AgeRowUpper);
-    if (VarvesSpanPair(kDepth, VarveTopCD, VarveBottomCD)) {
-      const VarveSums sums = VarveSumsInPair(cd);
+Variant GetAgeFromCD(BoreHoleSet& set, Single cd) {
+  if (cd == -9999 || cd == 9999) return Sentinel(set, cd);
+  if (set.VarveCountsLoaded && !(cd < set.VarveTopCD) && !(cd > set.VarveBottomCD)) {
+    BracketSearch(set, kDepth, cd, set.AgeRowLower, set.AgeRowUpper);
+    if (VarvesSpanPair(set, kDepth, set.VarveTopCD, set.VarveBottomCD)) {
+      const VarveSums sums = VarveSumsInPair(set, cd);
       Variant age;
       if (sums.below == sums.above) {
         // Unlike the lookup from an EFD, which gives the upper row here: the
         // lower row's age as its cell has it.
-        age = AgeModel(kAge, AgeRowLower);
-        AgeErrorPlus = CellSingle(kErrorPlus, AgeRowLower);
-        AgeErrorMinus = CellSingle(kErrorMinus, AgeRowLower);
+        age = set.AgeModel(kAge, set.AgeRowLower);
+        set.AgeErrorPlus = CellSingle(set, kErrorPlus, set.AgeRowLower);
+        set.AgeErrorMinus = CellSingle(set, kErrorMinus, set.AgeRowLower);
       } else {
-        age = AgeByVarves(sums);
+        age = AgeByVarves(set, sums);
       }
-      SayInterpolatedBy("(interpolated by varve count)");
+      SayInterpolatedBy(set, "(interpolated by varve count)");
       return age;
     }
   }
   // This path works on the depth rounded to DepthPrecision.
-  return GetAgeFromEFD(CDToEFD(cd).ToSingle());
+  return GetAgeFromEFD(set, CDToEFD(set, cd).ToSingle());
 }
 
-Variant GetEFDFromAge(Single age) {
+Variant GetEFDFromAge(BoreHoleSet& set, Single age) {
   Integer lower = 0;
   Integer upper = 0;
-  BracketSearch(kAge, age, lower, upper);
-  const Single efdLower = CellSingle(kEfd, lower);
-  const Single efdUpper = CellSingle(kEfd, upper);
-  if (VarveCountsLoaded) {
-    const double ageTop = GetAgeFromEFD(VarveTopEFD).ToDouble();
-    const double ageBottom = GetAgeFromEFD(VarveBottomEFD).ToDouble();
-    if (!(age < ageTop) && !(age > ageBottom) && !(efdLower < VarveTopEFD) &&
-        !(efdUpper > VarveBottomEFD)) {
-      return EfdFromAgeByVarves(age, lower, upper);
+  BracketSearch(set, kAge, age, lower, upper);
+  const Single efdLower = CellSingle(set, kEfd, lower);
+  const Single efdUpper = CellSingle(set, kEfd, upper);
+  if (set.VarveCountsLoaded) {
+    const double ageTop = GetAgeFromEFD(set, set.VarveTopEFD).ToDouble();
+    const double ageBottom = GetAgeFromEFD(set, set.VarveBottomEFD).ToDouble();
+    if (!(age < ageTop) && !(age > ageBottom) && !(efdLower < set.VarveTopEFD) &&
+        !(efdUpper > set.VarveBottomEFD)) {
+      return EfdFromAgeByVarves(set, age, lower, upper);
     }
   }
-  const double ageLower = CellDouble(kAge, lower);
+  const double ageLower = CellDouble(set, kAge, lower);
   const double part = static_cast<double>(age) - ageLower;
-  const double whole = CellDouble(kAge, upper) - ageLower;
+  const double whole = CellDouble(set, kAge, upper) - ageLower;
   // The two EFDs are singles, and so is their difference.
   const Single efdSpan = efdUpper - efdLower;
   const double efd = efdLower + Divide(part * efdSpan, whole);
-  ErrorsBetween(lower, upper, part, whole);
-  SayInterpolatedBy("(interpolated by EFD)");
+  ErrorsBetween(set, lower, upper, part, whole);
+  SayInterpolatedBy(set, "(interpolated by EFD)");
   return efd;
 }
 
@@ -231,8 +232,8 @@ void FrmMain::DisplayAge() {
     const Variant age = GetAgeFromCD(CSng(Val(Text2.Text)));
     Text4.Text = Str(Round(age.ToDouble(), AgePrecision));
   }
-  ShowUnit(*this);
-  ShowErrors(*this, true);
+  ShowUnit(masterSet, *this);
+  ShowErrors(masterSet, *this, true);
 }
 
 void FrmMain::Text4_GotFocus() {
@@ -254,8 +255,8 @@ void FrmMain::Text4_Change() {
     const Variant typed = GetEFDFromAge(CSng(Val(Text4.Text)));
     Text3.Text = Str(Round(typed.ToDouble(), DepthPrecision));
   }
-  ShowUnit(*this);
-  ShowErrors(*this, false);
+  ShowUnit(masterSet, *this);
+  ShowErrors(masterSet, *this, false);
 }
 
 }  // namespace ostraline

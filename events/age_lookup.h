@@ -3,6 +3,7 @@
 // age, from the control points of the age-depth model. Between two control
 // points the age runs linearly in EFD, or by the counted varves where the
 // varve record covers both points.
+#include "core/bore_hole_set.h"
 #include "runtime/checked_int.h"
 #include "runtime/variant.h"
 
@@ -13,9 +14,18 @@ namespace ostraline {
 // in AgeRowLower and AgeRowUpper; GetEFDFromAge keeps its pair to itself.
 // The sentinels 9999 and -9999 pass through the age lookups. A cell that is
 // no number, or a pair of rows with equal values, fails to the caller.
-Variant GetAgeFromCD(Single cd);
-Variant GetAgeFromEFD(Single efd);
+Variant GetAgeFromCD(BoreHoleSet& set, Single cd);
+inline Variant GetAgeFromCD(Single cd) {
+  return GetAgeFromCD(masterSet, cd);
+}
+Variant GetAgeFromEFD(BoreHoleSet& set, Single efd);
+inline Variant GetAgeFromEFD(Single efd) {
+  return GetAgeFromEFD(masterSet, efd);
+}
 // The EFD of an age, unrounded; on the varve path it lands on a marker.
-Variant GetEFDFromAge(Single age);
+Variant GetEFDFromAge(BoreHoleSet& set, Single age);
+inline Variant GetEFDFromAge(Single age) {
+  return GetEFDFromAge(masterSet, age);
+}
 
 }  // namespace ostraline

@@ -1,6 +1,7 @@
 #pragma once
 // Composite depth to event free depth and back: the merged event layers cut
 // out of the scale. No other code subtracts thickness.
+#include "core/bore_hole_set.h"
 #include "runtime/checked_int.h"
 #include "runtime/variant.h"
 
@@ -9,7 +10,13 @@ namespace ostraline {
 // Both round every result to DepthPrecision, half to even. The two
 // directions are not inverse where the list has had no merge: the last
 // layer's thickness never enters EFDToCD then.
-Variant CDToEFD(Single cd);
-Variant EFDToCD(Single efd);
+Variant CDToEFD(BoreHoleSet& set, Single cd);
+inline Variant CDToEFD(Single cd) {
+  return CDToEFD(masterSet, cd);
+}
+Variant EFDToCD(BoreHoleSet& set, Single efd);
+inline Variant EFDToCD(Single efd) {
+  return EFDToCD(masterSet, efd);
+}
 
 }  // namespace ostraline

@@ -20,35 +20,35 @@ namespace ostraline {
 namespace {
 
 // Row 0 stays zero, so the first marker's count is measured from 0.
-void ReadVarveRows(FrmMain& form, FieldReader& file) {
-  VarveCounts.Dim({{0, 1}, {0, 0}});
+void ReadVarveRows(BoreHoleSet& set, FrmMain& form, FieldReader& file) {
+  set.VarveCounts.Dim({{0, 1}, {0, 0}});
   Long rows = 0;
   while (!file.Eof()) {
     form.ProgressBar1.Value = static_cast<float>(std::min<long>(rows, 2000));
     ++rows;
-    VarveCounts.ReDimPreserve(rows);
-    VarveCounts(0, rows) = file.ReadSingle();
-    VarveCounts(1, rows) = file.ReadSingle();
+    set.VarveCounts.ReDimPreserve(rows);
+    set.VarveCounts(0, rows) = file.ReadSingle();
+    set.VarveCounts(1, rows) = file.ReadSingle();
   }
-  VarveCountRows = rows;
+  set.VarveCountRows = rows;
 }
 
 // A record of a header only has no first marker: reading it fails the import.
-void SetVarveLimits() {
-  VarveTopCD = VarveCounts(0, 1);
-  VarveBottomCD = VarveCounts(0, VarveCountRows);
-  VarveTopEFD = CDToEFD(VarveTopCD).ToSingle();
-  VarveBottomEFD = CDToEFD(VarveBottomCD).ToSingle();
-  VarveCountsLoaded = true;
+void SetVarveLimits(BoreHoleSet& set) {
+  set.VarveTopCD = set.VarveCounts(0, 1);
+  set.VarveBottomCD = set.VarveCounts(0, set.VarveCountRows);
+  set.VarveTopEFD = CDToEFD(set, set.VarveTopCD).ToSingle();
+  set.VarveBottomEFD = CDToEFD(set, set.VarveBottomCD).ToSingle();
+  set.VarveCountsLoaded = true;
 }
 
 }  // namespace
 
-VarveSums VarveSumsAt(Single depth, Single lowerDepth, Single upperDepth) {
+VarveSums VarveSumsAt(BoreHoleSet& set, Single depth, Single lowerDepth, Single upperDepth) {
   VarveSums sums;
   for (long i = 1;; ++i) {
-    const Single interval = VarveCounts(1, i) - VarveCounts(1, i - 1);
-    const Single marker = VarveCounts(0, i);
+    const Single interval = set.VarveCounts(1, i) - set.VarveCounts(1, i - 1);
+    const Single marker = set.VarveCounts(0, i);
     if (lowerDepth < marker && marker < depth) {
       sums.below += interval;
     } else if (depth < marker && marker < upperDepth) {
@@ -59,23 +59,24 @@ VarveSums VarveSumsAt(Single depth, Single lowerDepth, Single upperDepth) {
   return sums;
 }
 
-Single VarveOffset(Single lowerDepth, Single upperDepth, Single before, Single after) {
+Single VarveOffset(BoreHoleSet& set, Single lowerDepth, Single upperDepth, Single before,
+                   Single after) {
   long i = 1;
-  while (!(lowerDepth <= VarveCounts(0, i))) ++i;
+  while (!(lowerDepth <= set.VarveCounts(0, i))) ++i;
   const long anchor = i - 1;
   i = anchor + 1;
-  while (!(upperDepth <= VarveCounts(0, i))) ++i;
+  while (!(upperDepth <= set.VarveCounts(0, i))) ++i;
   const long end = i - 1;
   Single target = 0;
   if (static_cast<Single>(before + after) != 0) {
-    target = (VarveCounts(1, end) - VarveCounts(1, anchor)) * before / (before + after);
+    target = (set.VarveCounts(1, end) - set.VarveCounts(1, anchor)) * before / (before + after);
   }
   Single count = 0;
   for (i = anchor + 1;; ++i) {
-    count += VarveCounts(1, i) - VarveCounts(1, i - 1);
+    count += set.VarveCounts(1, i) - set.VarveCounts(1, i - 1);
     if (count >= target) break;
   }
-  return VarveCounts(0, i - 1) - VarveCounts(0, anchor);
+  return set.VarveCounts(0, i - 1) - set.VarveCounts(0, anchor);
 }
 
 void FrmMain::Command5_Click() {
@@ -90,8 +91,8 @@ void FrmMain::Command5_Click() {
     file.ReadText();
     VarveVersion = VersionDate(CommonDialog1.FileName);
     frmVersion->Label2(5).Caption = VarveVersion;
-    ReadVarveRows(*this, file);
-    SetVarveLimits();
+    ReadVarveRows(masterSet, *this, file);
+    SetVarveLimits(masterSet);
 
     DrawLamina();
     DisplayAge();

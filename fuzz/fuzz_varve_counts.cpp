@@ -17,7 +17,8 @@ using namespace ostraline;
 // Both directions across the record, the varve paths and the way back.
 void LookEverywhere(FrmMain& form) {
   for (float x : {-9999.0f, 0.0f, 100.0f, 135.0f, 155.0f, 199.5f, 250.0f, 300.0f, 1e6f}) {
-    for (Variant (*lookup)(Single) : {&GetAgeFromCD, &GetAgeFromEFD}) {
+    using Lookup = Variant (*)(Single);
+    for (Lookup lookup : {Lookup(&GetAgeFromCD), Lookup(&GetAgeFromEFD)}) {
       try {
         lookup(x);
       } catch (const RuntimeFailure&) {
