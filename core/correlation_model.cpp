@@ -17,12 +17,13 @@ namespace {
 
 // One row of the file: the splice column, three fields for each bore hole,
 // the composite depth, and four dropped fields in the long layout.
-void ReadModelRow(FieldReader& file, long row, bool longLayout, bool spliceAlreadyRead) {
-  if (!spliceAlreadyRead) TieCell(0, row) = file.ReadText();
+void ReadModelRow(BoreHoleSet& set, FieldReader& file, long row, bool longLayout,
+                  bool spliceAlreadyRead) {
+  if (!spliceAlreadyRead) set.TieCell(0, row) = file.ReadText();
   for (int hole = 1; hole <= 4; ++hole) {
-    for (int item = 0; item <= 2; ++item) ModelCell(0, hole, item, row) = file.ReadText();
+    for (int item = 0; item <= 2; ++item) set.ModelCell(0, hole, item, row) = file.ReadText();
   }
-  TieCell(1, row) = file.ReadText();
+  set.TieCell(1, row) = file.ReadText();
   if (longLayout) {
     for (int extra = 0; extra < 4; ++extra) file.ReadText();
   }
@@ -37,32 +38,32 @@ bool StartsWith(const std::string& text, const char* head) {
   return Left(text, Len(head)) == head;
 }
 
-void ReadHoleHeader(FrmMain& form, int hole) {
-  const std::string x = ModelCell(0, hole, 0, 0);
+void ReadHoleHeader(BoreHoleSet& set, FrmMain& form, int hole) {
+  const std::string x = set.ModelCell(0, hole, 0, 0);
   long p = Len(x) - 1;
   // Without a "(" the scan reaches position 0, which is no valid position.
   while (Mid(x, p, 1) != "(") --p;
   const std::string a = Mid(x, p + 1, Len(x) - p - 1);
   const std::string b = Trim(Left(x, p - 1));
   if (Len(a) == 1) {
-    HoleName(hole) = a;
-    HoleTitle(hole) = b;
+    set.HoleName(hole) = a;
+    set.HoleTitle(hole) = b;
   } else {
-    HoleTitle(hole) = a;
+    set.HoleTitle(hole) = a;
   }
   if (StartsWith(b, "Bore hole") || StartsWith(b, "Bore Hole") || StartsWith(b, "Lamina name") ||
       StartsWith(b, "Lamina Name")) {
-    form.Label1(hole).Caption = "Bore hole " + HoleName(hole);
+    form.Label1(hole).Caption = "Bore hole " + set.HoleName(hole);
   } else {
-    form.Label1(hole).Caption = HoleName(hole) + " (" + HoleTitle(hole) + ")";
+    form.Label1(hole).Caption = set.HoleName(hole) + " (" + set.HoleTitle(hole) + ")";
   }
-  form.mnuBH(hole).Caption = "Bore hole " + HoleName(hole);
+  form.mnuBH(hole).Caption = "Bore hole " + set.HoleName(hole);
 }
 
-void ReadModelFile(FrmMain& form, FieldReader& file) {
-  ModelCell.Dim({{0, 3}, {0, 5}, {0, 2}, {0, 5000}});
-  TieCell.Dim({{0, 3}, {0, 5000}});
-  ReadModelRow(file, 0, false, false);
+void ReadModelFile(BoreHoleSet& set, FrmMain& form, FieldReader& file) {
+  set.ModelCell.Dim({{0, 3}, {0, 5}, {0, 2}, {0, 5000}});
+  set.TieCell.Dim({{0, 3}, {0, 5000}});
+  ReadModelRow(set, file, 0, false, false);
   const std::string f = file.ReadText();
   // A splice cell of a data row holds its prefix and one letter: three or
   // more characters can only be the header's fifteenth column.
@@ -70,68 +71,68 @@ void ReadModelFile(FrmMain& form, FieldReader& file) {
   if (longLayout) {
     for (int extra = 0; extra < 3; ++extra) file.ReadText();
   } else {
-    TieCell(0, 1) = f;
+    set.TieCell(0, 1) = f;
   }
-  ReadModelRow(file, 1, longLayout, !longLayout);
+  ReadModelRow(set, file, 1, longLayout, !longLayout);
   long row = 2;
   while (!file.Eof()) {
-    ReadModelRow(file, row, longLayout, false);
+    ReadModelRow(set, file, row, longLayout, false);
     ++row;
   }
-  LastRow = row - 1;
+  set.LastRow = row - 1;
 
-  for (long r = 0; r <= LastRow; ++r) {
+  for (long r = 0; r <= set.LastRow; ++r) {
     for (int item = 0; item <= 2; ++item) {
       for (int hole = 1; hole <= 4; ++hole) {
-        std::string cell = DropPrefix(ModelCell(0, hole, item, r));
+        std::string cell = DropPrefix(set.ModelCell(0, hole, item, r));
         if (Right(cell, 1) == "*" || Left(cell, 1) == "*") cell = "9999";
-        ModelCell(0, hole, item, r) = cell;
+        set.ModelCell(0, hole, item, r) = cell;
       }
     }
   }
-  for (long r = 0; r <= LastRow; ++r) {
-    TieCell(0, r) = Trim(TieCell(0, r));
+  for (long r = 0; r <= set.LastRow; ++r) {
+    set.TieCell(0, r) = Trim(set.TieCell(0, r));
     for (int hole = 1; hole <= 4; ++hole) {
       for (int item = 0; item <= 2; ++item)
-        ModelCell(0, hole, item, r) = Trim(ModelCell(0, hole, item, r));
+        set.ModelCell(0, hole, item, r) = Trim(set.ModelCell(0, hole, item, r));
     }
-    TieCell(1, r) = Trim(TieCell(1, r));
+    set.TieCell(1, r) = Trim(set.TieCell(1, r));
   }
-  ModelCell.ReDimPreserve(LastRow);
-  TieCell.ReDimPreserve(LastRow);
+  set.ModelCell.ReDimPreserve(set.LastRow);
+  set.TieCell.ReDimPreserve(set.LastRow);
   form.ProgressBar1.Min = 0;
   form.ProgressBar1.Value = 0;
-  form.ProgressBar1.Max = static_cast<float>(LastRow) * 8;
+  form.ProgressBar1.Max = static_cast<float>(set.LastRow) * 8;
   form.ProgressBar1.Visible = true;
   Screen.SetMousePointer(11);
 
   const char* defaults[] = {"A", "B", "C", "D"};
-  for (int hole = 1; hole <= 4; ++hole) HoleName(hole) = defaults[hole - 1];
-  for (int hole = 1; hole <= 4; ++hole) ReadHoleHeader(form, hole);
+  for (int hole = 1; hole <= 4; ++hole) set.HoleName(hole) = defaults[hole - 1];
+  for (int hole = 1; hole <= 4; ++hole) ReadHoleHeader(set, form, hole);
 
   for (int column = 0; column <= 1; ++column) {
-    for (long r = 0; r <= LastRow; ++r) {
-      std::string cell = Trim(DropPrefix(TieCell(column, r)));
+    for (long r = 0; r <= set.LastRow; ++r) {
+      std::string cell = Trim(DropPrefix(set.TieCell(column, r)));
       if (cell.empty() || cell == "---") cell = "9999";
-      TieCell(column, r) = cell;
+      set.TieCell(column, r) = cell;
     }
   }
 }
 
-void SweepSections(FrmMain& form) {
-  SectionName.Dim({{0, 4}, {0, 500}});
-  SectionTopRow.Dim({{0, 4}, {0, 500}});
-  SectionBottomRow.Dim({{0, 4}, {0, 500}});
+void SweepSections(BoreHoleSet& set, FrmMain& form) {
+  set.SectionName.Dim({{0, 4}, {0, 500}});
+  set.SectionTopRow.Dim({{0, 4}, {0, 500}});
+  set.SectionBottomRow.Dim({{0, 4}, {0, 500}});
   for (int hole = 1; hole <= 4; ++hole) {
-    SectionCount(hole) = 0;
-    for (long r = 1; r <= LastRow; ++r) {
-      const std::string& label = ModelCell(0, hole, 0, r);
+    set.SectionCount(hole) = 0;
+    for (long r = 1; r <= set.LastRow; ++r) {
+      const std::string& label = set.ModelCell(0, hole, 0, r);
       if (IsSectionTop(label)) {
-        ++SectionCount(hole);
-        SectionName(hole, SectionCount(hole)) = SectionFromLabel(label);
-        SectionTopRow(hole, SectionCount(hole)) = static_cast<int>(r);
+        ++set.SectionCount(hole);
+        set.SectionName(hole, set.SectionCount(hole)) = SectionFromLabel(label);
+        set.SectionTopRow(hole, set.SectionCount(hole)) = static_cast<int>(r);
       } else if (IsSectionBottom(label)) {
-        SectionBottomRow(hole, SectionCount(hole)) = static_cast<int>(r);
+        set.SectionBottomRow(hole, set.SectionCount(hole)) = static_cast<int>(r);
       }
       form.ProgressBar1.Value = form.ProgressBar1.Value + 1;
     }
@@ -140,40 +141,42 @@ void SweepSections(FrmMain& form) {
 
 }  // namespace
 
-void SweepModelDepths(FrmMain& form) {
+void SweepModelDepths(BoreHoleSet& set, FrmMain& form) {
   for (int hole = 1; hole <= 4; ++hole) {
-    SectionCount(hole) = 0;
-    for (long r = 1; r <= LastRow; ++r) {
-      if (IsSectionTop(ModelCell(0, hole, 0, r))) ++SectionCount(hole);
-      const std::string psp = ModelCell(0, hole, 1, r);
+    set.SectionCount(hole) = 0;
+    for (long r = 1; r <= set.LastRow; ++r) {
+      if (IsSectionTop(set.ModelCell(0, hole, 0, r))) ++set.SectionCount(hole);
+      const std::string psp = set.ModelCell(0, hole, 1, r);
       if (Val(Right(psp, 4)) != 9999 && psp != "---") {
-        ModelCell(1, hole, 2, r) =
-            CompositeFromTrinity(hole, SectionCount(hole), CSng(Val(psp))).ToText();
-        ModelCell(1, hole, 1, r) = psp;
+        set.ModelCell(1, hole, 2, r) =
+            CompositeFromTrinity(set, hole, set.SectionCount(hole), CSng(Val(psp))).ToText();
+        set.ModelCell(1, hole, 1, r) = psp;
       } else {
-        ModelCell(1, hole, 2, r) = "9999";
+        set.ModelCell(1, hole, 2, r) = "9999";
       }
       // The tie itself wins over the computed value; a PSP that is no number fails here.
       const bool pspGiven = CDbl(psp) != 9999;
-      const bool cdGiven = CDbl(TieCell(1, r)) != 9999;
-      if (pspGiven && cdGiven && !TieCell(1, r).empty()) ModelCell(1, hole, 2, r) = TieCell(1, r);
+      const bool cdGiven = CDbl(set.TieCell(1, r)) != 9999;
+      if (pspGiven && cdGiven && !set.TieCell(1, r).empty())
+        set.ModelCell(1, hole, 2, r) = set.TieCell(1, r);
       form.ProgressBar1.Value = form.ProgressBar1.Value + 1;
     }
   }
   int largest = 0;
-  for (int hole = 1; hole <= 4; ++hole) largest = std::max<int>(largest, SectionCount(hole));
-  SectionName.ReDimPreserve(largest);
-  SectionTopRow.ReDimPreserve(largest);
-  SectionBottomRow.ReDimPreserve(largest);
-  DeepestBottom = 0;
+  for (int hole = 1; hole <= 4; ++hole) largest = std::max<int>(largest, set.SectionCount(hole));
+  set.SectionName.ReDimPreserve(largest);
+  set.SectionTopRow.ReDimPreserve(largest);
+  set.SectionBottomRow.ReDimPreserve(largest);
+  set.DeepestBottom = 0;
   for (int hole = 1; hole <= 4; ++hole) {
-    CoreBottom(hole) = CSng(Val(ModelCell(1, hole, 2, SectionBottomRow(hole, SectionCount(hole)))));
+    set.CoreBottom(hole) =
+        CSng(Val(set.ModelCell(1, hole, 2, set.SectionBottomRow(hole, set.SectionCount(hole)))));
   }
   for (int hole = 1; hole <= 4; ++hole) {
-    if (CoreBottom(hole) != 9999 && CoreBottom(hole) > DeepestBottom)
-      DeepestBottom = CoreBottom(hole);
+    if (set.CoreBottom(hole) != 9999 && set.CoreBottom(hole) > set.DeepestBottom)
+      set.DeepestBottom = set.CoreBottom(hole);
   }
-  form.Slider1.Max = static_cast<long>(Round(DeepestBottom - 0.5, 0));
+  form.Slider1.Max = static_cast<long>(Round(set.DeepestBottom - 0.5, 0));
 }
 
 void FrmMain::Command1_Click() {
@@ -183,9 +186,9 @@ void FrmMain::Command1_Click() {
     ModelVersion = VersionDate(CommonDialog1.FileName);
     frmVersion->Label2(1).Caption = ModelVersion;
     Caption = Caption + "   [" + FileStem(CommonDialog1.FileName) + "]";
-    ReadModelFile(*this, file);
-    SweepSections(*this);
-    SweepModelDepths(*this);
+    ReadModelFile(masterSet, *this, file);
+    SweepSections(masterSet, *this);
+    SweepModelDepths(masterSet, *this);
     OpenFormForWork(*this);
   } catch (const RuntimeFailure&) {
     ResetProgress(*this);

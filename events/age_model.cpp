@@ -57,22 +57,22 @@ std::string VersionOfHeader(const std::string& cell) {
 }
 
 // Declining takes the event layers out of the depth scale for the rest of the run.
-void TakeEventLayersOut(FrmMain& form) {
+void TakeEventLayersOut(BoreHoleSet& set, FrmMain& form) {
   form.Command4.Enabled = true;
-  EventCount = -9999;
-  MergedEventCount = -9999;
+  set.EventCount = -9999;
+  set.MergedEventCount = -9999;
 }
 
-bool ProceedDespiteVersion(FrmMain& form) {
-  const std::string version = VersionOfHeader(AgeModel(5, 0));
-  if (Trim(ModelVersion) == version) return true;
+bool ProceedDespiteVersion(BoreHoleSet& set, FrmMain& form) {
+  const std::string version = VersionOfHeader(set.AgeModel(5, 0));
+  if (Trim(set.ModelVersion) == version) return true;
   const MsgAnswer answer = MsgBox(
-      "Version dates are inconsistent between correlation models for plotting (" + ModelVersion +
-          ") and age control points (" + version + "). Do you proceed anyway?",
+      "Version dates are inconsistent between correlation models for plotting (" +
+          set.ModelVersion + ") and age control points (" + version + "). Do you proceed anyway?",
       MsgButtons::YesNo, "WARNING!!");
   if (answer != MsgAnswer::No) return true;
   ResetProgress(form);
-  TakeEventLayersOut(form);
+  TakeEventLayersOut(set, form);
   return false;
 }
 
@@ -88,7 +88,7 @@ void StoreRecord(Table<Variant, 2>& table, long row, const AgeRecord& record) {
 
 // Rows of class C and V are control points; R rows are only plotted; any
 // other class is dropped without a word.
-void ReadControlPoints(FieldReader& file, ImportProgress& progress) {
+void ReadControlPoints(BoreHoleSet& set, FieldReader& file, ImportProgress& progress) {
   Long points = 0;
   Long references = 0;
   while (!file.Eof()) {
@@ -99,23 +99,23 @@ void ReadControlPoints(FieldReader& file, ImportProgress& progress) {
     const std::string letter = Left(kind, 1);
     if (letter == "C" || letter == "V") {
       ++points;
-      StoreRecord(AgeModel, points, record);
+      StoreRecord(set.AgeModel, points, record);
     } else if (letter == "R") {
       ++references;
-      StoreRecord(AgeReferenceRows, references, record);
+      StoreRecord(set.AgeReferenceRows, references, record);
     }
   }
-  AgeModelCount = points;
-  AgeReferenceCount = references;
+  set.AgeModelCount = points;
+  set.AgeReferenceCount = references;
 }
 
 // The master's bore holes 1 to 4, then the Duo's as 5 to 8, with a later
 // match winning, so that a name in both sets counts as the Duo's. The Duo's
 // names join this search with its parallel model.
-int HoleOfName(const std::string& name) {
+int HoleOfName(BoreHoleSet& set, const std::string& name) {
   int hole = 9999;
   for (int j = 1; j <= 4; ++j) {
-    if (name == HoleName(j)) hole = j;
+    if (name == set.HoleName(j)) hole = j;
   }
   return hole;
 }
@@ -130,19 +130,20 @@ Variant CompositeOfRow(int hole, const std::string& section, Single psp) {
 
 // Each control point on the composite scale and in EFD. A row given by its
 // composite depth alone ("---") keeps the depth of the file.
-void PlaceControlPoints(ImportProgress& progress) {
-  for (long i = 1; i <= AgeModelCount; ++i) {
-    progress.holeAtHand = AgeModel(2, i);
-    const int hole = HoleOfName(AgeModel(2, i));
-    const std::string& depth = AgeModel(5, i);
+void PlaceControlPoints(BoreHoleSet& set, ImportProgress& progress) {
+  for (long i = 1; i <= set.AgeModelCount; ++i) {
+    progress.holeAtHand = set.AgeModel(2, i);
+    const int hole = HoleOfName(set, set.AgeModel(2, i));
+    const std::string& depth = set.AgeModel(5, i);
     if (hole == 9999 && Str(Val(depth)) != depth) {
-      Fail(FailureKind::TypeMismatch, "bore hole " + AgeModel(2, i));
+      Fail(FailureKind::TypeMismatch, "bore hole " + set.AgeModel(2, i));
     }
-    if (AgeModel(2, i) != "---" && AgeModel(3, i) != "---" && AgeModel(4, i) != "---") {
-      const Variant composite = CompositeOfRow(hole, AgeModel(3, i), CSng(Val(AgeModel(4, i))));
-      if (composite.ToDouble() != 9999) AgeModel(5, i) = Str(composite.ToSingle());
+    if (set.AgeModel(2, i) != "---" && set.AgeModel(3, i) != "---" && set.AgeModel(4, i) != "---") {
+      const Variant composite =
+          CompositeOfRow(hole, set.AgeModel(3, i), CSng(Val(set.AgeModel(4, i))));
+      if (composite.ToDouble() != 9999) set.AgeModel(5, i) = Str(composite.ToSingle());
     }
-    AgeModel(11, i) = CDToEFD(CSng(Val(AgeModel(5, i)))).ToText();
+    set.AgeModel(11, i) = CDToEFD(set, CSng(Val(set.AgeModel(5, i)))).ToText();
   }
 }
 
@@ -164,7 +165,7 @@ void EnableAgeControls(FrmMain& form) {
   }
 }
 
-void ReportFailure(FrmMain& form, const ImportProgress& progress) {
+void ReportFailure(BoreHoleSet& set, FrmMain& form, const ImportProgress& progress) {
   ResetProgress(form);
   if (!progress.fileOpen) return;
   // With the Duo closed every failure reads as a bore hole of the Duo.
@@ -175,7 +176,7 @@ void ReportFailure(FrmMain& form, const ImportProgress& progress) {
                "' has not been defined. Import parallel correlation model to Ostraline Duo.",
            MsgButtons::Ok, "Error", MsgIcon::Exclamation);
   }
-  TakeEventLayersOut(form);
+  TakeEventLayersOut(set, form);
 }
 
 }  // namespace
@@ -193,11 +194,11 @@ void FrmMain::Command4_Click() {
     ProgressBar1.Max = 200;
     ProgressBar1.Visible = true;
     StoreRecord(AgeModel, 0, ReadAgeRecord(file, progress));
-    if (!ProceedDespiteVersion(*this)) return;
-    ReadControlPoints(file, progress);
+    if (!ProceedDespiteVersion(masterSet, *this)) return;
+    ReadControlPoints(masterSet, file, progress);
 
     EnableAgeControls(*this);
-    PlaceControlPoints(progress);
+    PlaceControlPoints(masterSet, progress);
     ErrorLevelPlus = LevelOfHeader(AgeModel(6, 0));
     ErrorLevelMinus = LevelOfHeader(AgeModel(8, 0));
 
@@ -216,7 +217,7 @@ void FrmMain::Command4_Click() {
     ProgressBar1.Visible = false;
     ProgressBar1.Value = 0;
   } catch (const RuntimeFailure&) {
-    ReportFailure(*this, progress);
+    ReportFailure(masterSet, *this, progress);
   }
 }
 

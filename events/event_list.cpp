@@ -1,6 +1,8 @@
 // The list of event layers: its import, the composite depth of each row, the
 // sort on the top and the fusion of what overlaps, and the EFD shown for the
 // composite depth of the target.
+#include "events/event_list.h"
+
 #include <initializer_list>
 #include <utility>
 
@@ -18,32 +20,33 @@
 #include "runtime/file_names.h"
 #include "runtime/number_text.h"
 
+
 namespace ostraline {
 namespace {
 
 // Five text fields a record, the header kept in row 0 unread. The table grows
 // by one row after each record, so the counter ends one past the last row.
-void ReadEventList(FieldReader& file) {
-  EventList.Dim({{0, 9}, {0, 1}});
+void ReadEventList(BoreHoleSet& set, FieldReader& file) {
+  set.EventList.Dim({{0, 9}, {0, 1}});
   long rows = 0;
   while (!file.Eof()) {
-    for (int column = 1; column <= 5; ++column) EventList(column, rows) = file.ReadText();
+    for (int column = 1; column <= 5; ++column) set.EventList(column, rows) = file.ReadText();
     ++rows;
-    EventList.ReDimPreserve(rows);
+    set.EventList.ReDimPreserve(rows);
   }
   const long count = rows - 1;
   // A file without even a header would cut the table to no row at all, which
   // the language refuses as a bad subscript.
   if (count < 0) Fail(FailureKind::SubscriptOutOfRange, "event list without a header");
-  EventCount = count;
-  EventList.ReDimPreserve(count);
+  set.EventCount = count;
+  set.EventList.ReDimPreserve(count);
 }
 
-void DimensionLayerTables() {
-  const long count = EventCount;
-  EventOrder.Dim({{0, count}});
-  EventTop.Dim({{0, 3}, {0, count}});
-  EventBottom.Dim({{0, 3}, {0, count}});
+void DimensionLayerTables(BoreHoleSet& set) {
+  const long count = set.EventCount;
+  set.EventOrder.Dim({{0, count}});
+  set.EventTop.Dim({{0, 3}, {0, count}});
+  set.EventBottom.Dim({{0, 3}, {0, count}});
 }
 
 void SetEfdControlsEnabled(FrmMain& form, bool enabled) {
@@ -54,67 +57,68 @@ void SetEfdControlsEnabled(FrmMain& form, bool enabled) {
 }
 
 // The EFD kept beside the composite depth in the correlation tables.
-void StoreModelEfd() {
-  for (long r = 0; r <= LastRow; ++r) {
+void StoreModelEfd(BoreHoleSet& set) {
+  for (long r = 0; r <= set.LastRow; ++r) {
     for (int hole = 1; hole <= 4; ++hole) {
-      ModelCell(2, hole, 2, r) = CDToEFD(CSng(Val(ModelCell(1, hole, 2, r)))).ToText();
+      set.ModelCell(2, hole, 2, r) = CDToEFD(set, CSng(Val(set.ModelCell(1, hole, 2, r)))).ToText();
     }
   }
-  for (long r = 0; r <= LastRow; ++r) TieCell(2, r) = CDToEFD(CSng(Val(TieCell(1, r)))).ToText();
+  for (long r = 0; r <= set.LastRow; ++r)
+    set.TieCell(2, r) = CDToEFD(set, CSng(Val(set.TieCell(1, r)))).ToText();
 }
 
 // The composite depth of one end of a row, kept to four decimals whatever the
 // depth precision of the display. Unknown sections give 9999.
-Single EventDepth(long row, int positionColumn) {
-  const int hole = static_cast<int>(GetBH(EventList(1, row)).ToDouble());
-  const int section = SectionOrdinalByName(hole, EventList(2, row));
+Single EventDepth(BoreHoleSet& set, long row, int positionColumn) {
+  const int hole = static_cast<int>(GetBH(set, set.EventList(1, row)).ToDouble());
+  const int section = SectionOrdinalByName(set, hole, set.EventList(2, row));
   const Variant depth =
-      CompositeFromTrinity(hole, section, CSng(Val(EventList(positionColumn, row))));
+      CompositeFromTrinity(set, hole, section, CSng(Val(set.EventList(positionColumn, row))));
   return CSng(Round(depth.ToDouble(), 4));
 }
 
 // Selection sort on the composite top. Among equal tops the first row wins,
 // and a top at or above the starting minimum is never chosen, so the row of
 // the last choice stays in force for that step.
-void SortLayersByTop(ProgressBar& progress) {
+void SortLayersByTop(BoreHoleSet& set, ProgressBar& progress) {
   long chosen = 0;
-  for (long k = 1; k <= EventCount; ++k) {
+  for (long k = 1; k <= set.EventCount; ++k) {
     progress.Value = static_cast<float>(k);
     Single minimum = 999999;
-    for (long m = k; m <= EventCount; ++m) {
-      if (EventTop(1, m) < minimum) {
-        minimum = EventTop(1, m);
+    for (long m = k; m <= set.EventCount; ++m) {
+      if (set.EventTop(1, m) < minimum) {
+        minimum = set.EventTop(1, m);
         chosen = m;
       }
     }
-    std::swap(EventTop(1, k), EventTop(1, chosen));
-    std::swap(EventBottom(1, k), EventBottom(1, chosen));
-    EventOrder(k) = chosen;
+    std::swap(set.EventTop(1, k), set.EventTop(1, chosen));
+    std::swap(set.EventBottom(1, k), set.EventBottom(1, chosen));
+    set.EventOrder(k) = chosen;
   }
 }
 
 // Layers that overlap become their union. The fused layer keeps its place to
 // meet its new neighbour, so a chain of overlaps collapses into one; the rows
 // freed at the end hold -9999. Layers that merely touch stay apart.
-void MergeOverlappingLayers() {
+void MergeOverlappingLayers(BoreHoleSet& set) {
   long i = 0;
   do {
-    if (EventBottom(1, i + 1) <= EventTop(1, i + 2)) {
+    if (set.EventBottom(1, i + 1) <= set.EventTop(1, i + 2)) {
       ++i;
     } else {
-      if (EventBottom(1, i + 1) < EventBottom(1, i + 2))
-        EventBottom(1, i + 1) = EventBottom(1, i + 2);
-      for (long r = i + 3; r <= EventCount; ++r) {
-        EventTop(1, r - 1) = EventTop(1, r);
-        EventBottom(1, r - 1) = EventBottom(1, r);
-        EventOrder(r - 1) = EventOrder(r);
+      if (set.EventBottom(1, i + 1) < set.EventBottom(1, i + 2))
+        set.EventBottom(1, i + 1) = set.EventBottom(1, i + 2);
+      for (long r = i + 3; r <= set.EventCount; ++r) {
+        set.EventTop(1, r - 1) = set.EventTop(1, r);
+        set.EventBottom(1, r - 1) = set.EventBottom(1, r);
+        set.EventOrder(r - 1) = set.EventOrder(r);
       }
-      EventTop(1, EventCount) = -9999;
-      EventBottom(1, EventCount) = -9999;
-      EventOrder(EventCount) = -9999;
-      --MergedEventCount;
+      set.EventTop(1, set.EventCount) = -9999;
+      set.EventBottom(1, set.EventCount) = -9999;
+      set.EventOrder(set.EventCount) = -9999;
+      --set.MergedEventCount;
     }
-  } while (i < MergedEventCount - 1);
+  } while (i < set.MergedEventCount - 1);
 }
 
 }  // namespace
@@ -125,8 +129,8 @@ void FrmMain::Command3_Click() {
     FieldReader file = OpenDataFile(*this, fileOpen);
     EventListVersion = VersionDate(CommonDialog1.FileName);
     frmVersion->Label2(3).Caption = EventListVersion;
-    ReadEventList(file);
-    DimensionLayerTables();
+    ReadEventList(masterSet, file);
+    DimensionLayerTables(masterSet);
 
     Command3.Enabled = false;
     // The overlap options are opened and never read: the merge always forms the union.
@@ -137,7 +141,7 @@ void FrmMain::Command3_Click() {
     EventListLoaded = true;
     CombineAndSortEvents();
 
-    StoreModelEfd();
+    StoreModelEfd(masterSet);
     for (long i = 1; i <= MergedEventCount; ++i) {
       EventTop(2, i) = CDToEFD(EventTop(1, i)).ToSingle();
       EventBottom(2, i) = CDToEFD(EventBottom(1, i)).ToSingle();
@@ -163,42 +167,46 @@ void FrmMain::Command3_Click() {
   }
 }
 
-void FrmMain::CombineAndSortEvents() {
-  if (!EventListLoaded) {
-    ResetProgress(*this);
+void CombineAndSortEvents(BoreHoleSet& set, FrmMain& form) {
+  if (!set.EventListLoaded) {
+    ResetProgress(form);
     return;
   }
-  MergedEventCount = EventCount;
-  for (long i = 1; i <= EventCount; ++i) {
-    EventTop(1, i) = EventDepth(i, 3);
-    EventBottom(1, i) = EventDepth(i, 4);
-    EventList(6, i) = Str(EventTop(1, i));
-    EventList(7, i) = Str(EventBottom(1, i));
+  set.MergedEventCount = set.EventCount;
+  for (long i = 1; i <= set.EventCount; ++i) {
+    set.EventTop(1, i) = EventDepth(set, i, 3);
+    set.EventBottom(1, i) = EventDepth(set, i, 4);
+    set.EventList(6, i) = Str(set.EventTop(1, i));
+    set.EventList(7, i) = Str(set.EventBottom(1, i));
   }
-  if (EventCount == 0) {
-    Text3.Text = Text2.Text.Get();
+  if (set.EventCount == 0) {
+    form.Text3.Text = form.Text2.Text.Get();
     return;
   }
-  ProgressBar1.Max = static_cast<float>(EventCount);
-  ProgressBar1.Value = 0;
-  ProgressBar1.Visible = true;
+  form.ProgressBar1.Max = static_cast<float>(set.EventCount);
+  form.ProgressBar1.Value = 0;
+  form.ProgressBar1.Visible = true;
   Screen.SetMousePointer(11);
 
-  SortLayersByTop(ProgressBar1);
+  SortLayersByTop(set, form.ProgressBar1);
   // A single row has no neighbour to meet: the merge fails on the table's bound.
-  MergeOverlappingLayers();
+  MergeOverlappingLayers(set);
 
-  const std::string shown = CDToEFD(CSng(Val(Label1(8).Caption))).ToText();
-  Label1(10).Caption = shown;
-  Text3.Text = shown;
-  for (long i = 1; i <= EventCount; ++i) {
-    EventList(8, i) = CDToEFD(CSng(Val(EventList(6, i)))).ToText();
+  const std::string shown = CDToEFD(set, CSng(Val(form.Label1(8).Caption))).ToText();
+  form.Label1(10).Caption = shown;
+  form.Text3.Text = shown;
+  for (long i = 1; i <= set.EventCount; ++i) {
+    set.EventList(8, i) = CDToEFD(set, CSng(Val(set.EventList(6, i)))).ToText();
   }
-  for (long i = 1; i <= MergedEventCount; ++i) {
-    EventTop(2, i) = CDToEFD(CSng(Val(Str(EventTop(1, i))))).ToSingle();
-    EventBottom(2, i) = CDToEFD(CSng(Val(Str(EventBottom(1, i))))).ToSingle();
+  for (long i = 1; i <= set.MergedEventCount; ++i) {
+    set.EventTop(2, i) = CDToEFD(set, CSng(Val(Str(set.EventTop(1, i))))).ToSingle();
+    set.EventBottom(2, i) = CDToEFD(set, CSng(Val(Str(set.EventBottom(1, i))))).ToSingle();
   }
-  ResetProgress(*this);
+  ResetProgress(form);
+}
+
+void FrmMain::CombineAndSortEvents() {
+  ostraline::CombineAndSortEvents(masterSet, *this);
 }
 
 // The road from composite depth to EFD: each write of Label1(8) refreshes the
