@@ -48,25 +48,25 @@ void SaveTexts(const FrmMain& form) {
 
 }  // namespace
 
-void DrawLamina() {
+void DrawLamina(BoreHoleSet& set) {
   FrmMain& form = *frmMain;
-  const ModelRows rows;
+  const ModelRows rows(set);
   ClearColumns(form);
   PaintAboveCore(form, rows);
   PaintCompositeColumn(form, rows);
-  DrawBH5();
-  PaintSplicedParts(form, rows);
-  PaintBelowCore(form);
+  DrawBH5(set);
+  PaintSplicedParts(set, form, rows);
+  PaintBelowCore(set, form);
   PaintSectionGaps(form, rows);
-  if (MergedEventCount > 0) DrawEvents();
+  if (set.MergedEventCount > 0) DrawEvents(set);
   CrossSectionGaps(form, rows);
   ChooseAgeDepthColumn();
-  PaintVarveStretches(form);
+  PaintVarveStretches(set, form);
   for (int i = 0; i <= 4; ++i) form.BoreHole(i).FillStyle = 0;
-  PlotAgeControlPoints(form);
-  PlotReferenceRows(form);
+  PlotAgeControlPoints(set, form);
+  PlotReferenceRows(set, form);
   DrawFixedHorizon(form);
-  DrawRowMarks(form, rows);
+  DrawRowMarks(set, form, rows);
   CommitColumns(form);
   ScalePanels(form);
   SaveTexts(form);

@@ -26,19 +26,19 @@ long ClassColour(const std::string& ageClass) {
 }
 
 // The number of the bore hole of that name, or 0.
-int HoleNamed(const std::string& name) {
+int HoleNamed(BoreHoleSet& set, const std::string& name) {
   for (int hole = 1; hole <= 4; ++hole) {
-    if (HoleName(hole) == name) return hole;
+    if (set.HoleName(hole) == name) return hole;
   }
   return 0;
 }
 
-Single AgeDepth(long row) {
-  return CellNumber(AgeModel(AgeDepthColumn, row));
+Single AgeDepth(BoreHoleSet& set, long row) {
+  return CellNumber(set.AgeModel(AgeDepthColumn, row));
 }
 
-Single ReferenceDepth(long row) {
-  const Variant& cell = AgeReferenceRows(5, row);
+Single ReferenceDepth(BoreHoleSet& set, long row) {
+  const Variant& cell = set.AgeReferenceRows(5, row);
   return cell.IsNumber() ? AsSingle(cell.ToDouble()) : CellNumber(cell.ToText());
 }
 
@@ -73,74 +73,78 @@ void ChooseAgeDepthColumn() {
   if (DepthAxis == 3) AgeDepthColumn = 7;
 }
 
-void PaintVarveStretches(FrmMain& form) {
-  if (!AgeModelLoaded) return;
+void PaintVarveStretches(BoreHoleSet& set, FrmMain& form) {
+  if (!set.AgeModelLoaded) return;
   PictureBox& composite = form.BoreHole(0);
   const float top = composite.ScaleTop;
   const float bottom = composite.ScaleTop + composite.ScaleHeight;
   long first = -9999;
   long last = -9999;
-  for (J = 2; J <= AgeModelCount; ++J) {
-    const bool counted = AgeModel(0, J) == "V";
-    const bool countedBefore = AgeModel(0, J - 1) == "V";
+  for (J = 2; J <= set.AgeModelCount; ++J) {
+    const bool counted = set.AgeModel(0, J) == "V";
+    const bool countedBefore = set.AgeModel(0, J - 1) == "V";
     if (counted && !countedBefore) first = J;
     if (countedBefore && !counted) last = J - 1;
-    if (counted && J == AgeModelCount) last = J;
+    if (counted && J == set.AgeModelCount) last = J;
     if (first == -9999 || last == -9999) continue;
-    if (AgeDepth(last) > top && bottom > AgeDepth(first)) {
-      composite.LineBF(0, AgeDepth(first), 0.8f, AgeDepth(last), kVarvePink);
+    if (AgeDepth(set, last) > top && bottom > AgeDepth(set, first)) {
+      composite.LineBF(0, AgeDepth(set, first), 0.8f, AgeDepth(set, last), kVarvePink);
     }
     first = -9999;
     last = -9999;
   }
 }
 
-void PlotAgeControlPoints(FrmMain& form) {
-  if (!AgeModelLoaded) return;
+void PlotAgeControlPoints(BoreHoleSet& set, FrmMain& form) {
+  if (!set.AgeModelLoaded) return;
   PictureBox& composite = form.BoreHole(0);
   const bool labels = !form.mnuSize(1).Checked && form.mnuShowLabCodes.Checked;
   // A row that names no bore hole and no "---" keeps the hole of the row before.
   int own = 0;
-  WalkViewWindow(AgeModelCount, composite, AgeDepth, [&](long row, Single depth) {
-    const std::string& ageClass = AgeModel(0, row);
-    if (ageClass == "V") return;
-    const std::string& hole = AgeModel(2, row);
-    if (hole == "---") own = 0;
-    if (const int named = HoleNamed(hole); named != 0) own = named;
-    const long colour = ClassColour(ageClass);
-    composite.FillColor = colour;
-    composite.Circle(0.6f, depth, 0.3f, colour);
-    if (own != 0) {
-      form.BoreHole(own).FillColor = colour;
-      form.BoreHole(own).Circle(0.6f, depth, 0.35f, colour);
-    }
-    if (labels) {
-      PlaceLabel(composite, depth);
-      composite.Print(AgeModel(1, row));
-    }
-  });
+  WalkViewWindow(
+      set.AgeModelCount, composite, [&](long row) { return AgeDepth(set, row); },
+      [&](long row, Single depth) {
+        const std::string& ageClass = set.AgeModel(0, row);
+        if (ageClass == "V") return;
+        const std::string& hole = set.AgeModel(2, row);
+        if (hole == "---") own = 0;
+        if (const int named = HoleNamed(set, hole); named != 0) own = named;
+        const long colour = ClassColour(ageClass);
+        composite.FillColor = colour;
+        composite.Circle(0.6f, depth, 0.3f, colour);
+        if (own != 0) {
+          form.BoreHole(own).FillColor = colour;
+          form.BoreHole(own).Circle(0.6f, depth, 0.35f, colour);
+        }
+        if (labels) {
+          PlaceLabel(composite, depth);
+          composite.Print(set.AgeModel(1, row));
+        }
+      });
 }
 
 // Reference rows take no part in any age; they are shown for comparison.
-void PlotReferenceRows(FrmMain& form) {
-  if (!AgeModelLoaded || AgeReferenceCount < 1) return;
+void PlotReferenceRows(BoreHoleSet& set, FrmMain& form) {
+  if (!set.AgeModelLoaded || set.AgeReferenceCount < 1) return;
   PictureBox& composite = form.BoreHole(0);
   const bool labels = !form.mnuSize(1).Checked;
-  WalkViewWindow(AgeReferenceCount, composite, ReferenceDepth, [&](long row, Single depth) {
-    if (AgeReferenceRows(0, row).ToText() == "R") {
-      composite.FillColor = kDarkGrey;
-      composite.Circle(0.6f, depth, 0.2f, kDarkGrey);
-      if (const int hole = HoleNamed(AgeReferenceRows(2, row).ToText()); hole != 0) {
-        form.BoreHole(hole).FillColor = kDarkGrey;
-        form.BoreHole(hole).Circle(0.6f, depth, 0.25f, kDarkGrey);
-      }
-    }
-    if (labels) {
-      PlaceLabel(composite, depth);
-      const Variant& label = AgeReferenceRows(1, row);
-      composite.Print(label.IsNumber() ? PrintedNumber(label.ToText()) : label.ToText());
-    }
-  });
+  WalkViewWindow(
+      set.AgeReferenceCount, composite, [&](long row) { return ReferenceDepth(set, row); },
+      [&](long row, Single depth) {
+        if (set.AgeReferenceRows(0, row).ToText() == "R") {
+          composite.FillColor = kDarkGrey;
+          composite.Circle(0.6f, depth, 0.2f, kDarkGrey);
+          if (const int hole = HoleNamed(set, set.AgeReferenceRows(2, row).ToText()); hole != 0) {
+            form.BoreHole(hole).FillColor = kDarkGrey;
+            form.BoreHole(hole).Circle(0.6f, depth, 0.25f, kDarkGrey);
+          }
+        }
+        if (labels) {
+          PlaceLabel(composite, depth);
+          const Variant& label = set.AgeReferenceRows(1, row);
+          composite.Print(label.IsNumber() ? PrintedNumber(label.ToText()) : label.ToText());
+        }
+      });
 }
 
 }  // namespace ostraline

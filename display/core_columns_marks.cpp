@@ -33,14 +33,15 @@ void PrintAt(PictureBox& column, float x, double y, const std::string& text) {
   column.Print(text);
 }
 
-void MarkBoreHoleRow(FrmMain& form, const ModelRows& rows, int hole, long r, double offset) {
+void MarkBoreHoleRow(BoreHoleSet& set, FrmMain& form, const ModelRows& rows, int hole, long r,
+                     double offset) {
   const Single depth = rows.Depth(hole, r);
   if (depth == 9999) return;
   PictureBox& column = form.BoreHole(hole);
   const double labelY = depth - offset;
   if (!(depth > column.ScaleTop && column.ScaleTop + column.ScaleHeight > labelY)) return;
   const std::string& label = rows.Label(hole, r);
-  const std::string text = label + " (" + ModelCell(0, hole, 1, r) + " cm)";
+  const std::string text = label + " (" + set.ModelCell(0, hole, 1, r) + " cm)";
   const bool labelled = LabelFontSize > 1;
   if (rows.IsPinRow(hole, r)) {
     column.FillColor = kPinGreen;
@@ -89,11 +90,11 @@ void DrawFixedHorizon(FrmMain& form) {
   }
 }
 
-void DrawRowMarks(FrmMain& form, const ModelRows& rows) {
+void DrawRowMarks(BoreHoleSet& set, FrmMain& form, const ModelRows& rows) {
   const double holeOffset = LabelOffset(form, 60, 6);
   const double tieOffset = LabelOffset(form, 60, 5);
   for (long r = 1; r <= rows.LastRow(); ++r) {
-    for (int hole = 1; hole <= 4; ++hole) MarkBoreHoleRow(form, rows, hole, r, holeOffset);
+    for (int hole = 1; hole <= 4; ++hole) MarkBoreHoleRow(set, form, rows, hole, r, holeOffset);
     MarkTieRow(form, rows, r, tieOffset);
   }
 }

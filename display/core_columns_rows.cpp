@@ -15,14 +15,15 @@ bool IsGap(const std::string& kind) {
 
 }  // namespace
 
-ModelRows::ModelRows()
-    : axis_(DepthAxis),
-      lastRow_(ostraline::LastRow),
+ModelRows::ModelRows(const BoreHoleSet& set)
+    : set_(set),
+      axis_(DepthAxis),
+      lastRow_(set.LastRow),
       holeRows_(static_cast<std::size_t>(lastRow_ + 1) * 4),
       tieRows_(static_cast<std::size_t>(lastRow_ + 1)) {
   for (long r = 0; r <= lastRow_; ++r) {
     TieRow& tie = tieRows_[static_cast<std::size_t>(r)];
-    tie.depth = CellNumber(TieCell(axis_, r));
+    tie.depth = CellNumber(set_.TieCell(axis_, r));
     tie.gap = IsGap(Kind(r));
     for (int hole = 1; hole <= 4; ++hole) {
       HoleRow& row = holeRows_[Slot(hole, r)];
@@ -33,15 +34,15 @@ ModelRows::ModelRows()
 }
 
 const std::string& ModelRows::DepthText(int hole, long row) const {
-  return ModelCell(axis_, hole, 2, row);
+  return set_.ModelCell(axis_, hole, 2, row);
 }
 
 double ModelRows::Psp(int hole, long row) const {
-  return Val(ModelCell(axis_, hole, 1, row));
+  return Val(set_.ModelCell(axis_, hole, 1, row));
 }
 
 const std::string& ModelRows::Label(int hole, long row) const {
-  return ModelCell(0, hole, 0, row);
+  return set_.ModelCell(0, hole, 0, row);
 }
 
 bool ModelRows::OpensSection(int hole, long row) const {
@@ -59,11 +60,11 @@ long ModelRows::NextSectionStart(int hole, long row) const {
 }
 
 const std::string& ModelRows::Kind(long row) const {
-  return TieCell(0, row);
+  return set_.TieCell(0, row);
 }
 
 bool ModelRows::KindNames(int hole, long row) const {
-  return Kind(row) == HoleName(hole);
+  return Kind(row) == set_.HoleName(hole);
 }
 
 bool ModelRows::KindNamesAnyHole(long row) const {

@@ -5,13 +5,14 @@
 #include <string>
 #include <vector>
 
+#include "core/bore_hole_set.h"
 #include "runtime/checked_int.h"
 
 namespace ostraline {
 
 class ModelRows {
  public:
-  ModelRows();
+  explicit ModelRows(const BoreHoleSet& set);
 
   long LastRow() const { return lastRow_; }
   // ModelCell(DepthAxis, hole, 2, row) as a Single.
@@ -53,6 +54,7 @@ class ModelRows {
     return static_cast<std::size_t>(row) * 4 + static_cast<std::size_t>(hole - 1);
   }
 
+  const BoreHoleSet& set_;
   int axis_;
   long lastRow_;
   std::vector<HoleRow> holeRows_;  // rows 0..LastRow of bore holes 1..4

@@ -64,10 +64,10 @@ void PaintCompositeColumn(FrmMain& form, const ModelRows& rows) {
   PaintBand(composite, rows.Tie(rows.LastRow()), bottom, kGrey);
 }
 
-void PaintBelowCore(FrmMain& form) {
+void PaintBelowCore(BoreHoleSet& set, FrmMain& form) {
   for (int hole = 1; hole <= 4; ++hole) {
     PictureBox& column = form.BoreHole(hole);
-    PaintBand(column, CoreBottom(hole), BottomOf(column), kGrey);
+    PaintBand(column, set.CoreBottom(hole), BottomOf(column), kGrey);
   }
 }
 

@@ -19,7 +19,8 @@ Single FirstTie(const ModelRows& rows) {
   return 9999;
 }
 
-void PaintPiecesOf(int hole, PictureBox& column, const ModelRows& rows, Single start) {
+void PaintPiecesOf(BoreHoleSet& set, int hole, PictureBox& column, const ModelRows& rows,
+                   Single start) {
   const float top = column.ScaleTop;
   const float bottom = column.ScaleTop + column.ScaleHeight;
   Single previous = start;
@@ -48,14 +49,15 @@ void PaintPiecesOf(int hole, PictureBox& column, const ModelRows& rows, Single s
     }
   }
   // The deepest bore hole closes the composite.
-  if (DeepestBottom == CoreBottom(hole)) PaintBand(column, previous, DeepestBottom, kPaleCyan);
+  if (set.DeepestBottom == set.CoreBottom(hole))
+    PaintBand(column, previous, set.DeepestBottom, kPaleCyan);
 }
 
 }  // namespace
 
-void PaintSplicedParts(FrmMain& form, const ModelRows& rows) {
+void PaintSplicedParts(BoreHoleSet& set, FrmMain& form, const ModelRows& rows) {
   const Single start = FirstTie(rows);
-  for (int hole = 1; hole <= 4; ++hole) PaintPiecesOf(hole, form.BoreHole(hole), rows, start);
+  for (int hole = 1; hole <= 4; ++hole) PaintPiecesOf(set, hole, form.BoreHole(hole), rows, start);
 }
 
 }  // namespace ostraline

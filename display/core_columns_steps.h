@@ -4,6 +4,7 @@
 
 namespace ostraline {
 
+struct BoreHoleSet;
 class FrmMain;
 class ModelRows;
 
@@ -12,21 +13,21 @@ class ModelRows;
 // the event layers.
 void PaintAboveCore(FrmMain& form, const ModelRows& rows);
 void PaintCompositeColumn(FrmMain& form, const ModelRows& rows);
-void PaintBelowCore(FrmMain& form);
+void PaintBelowCore(BoreHoleSet& set, FrmMain& form);
 void PaintSectionGaps(FrmMain& form, const ModelRows& rows);
 void CrossSectionGaps(FrmMain& form, const ModelRows& rows);
 
 // Pale cyan over the parts of each bore hole that the composite is made of.
-void PaintSplicedParts(FrmMain& form, const ModelRows& rows);
+void PaintSplicedParts(BoreHoleSet& set, FrmMain& form, const ModelRows& rows);
 
 // The age-depth model on the composite column and the bore holes.
 void ChooseAgeDepthColumn();
-void PaintVarveStretches(FrmMain& form);
-void PlotAgeControlPoints(FrmMain& form);
-void PlotReferenceRows(FrmMain& form);
+void PaintVarveStretches(BoreHoleSet& set, FrmMain& form);
+void PlotAgeControlPoints(BoreHoleSet& set, FrmMain& form);
+void PlotReferenceRows(BoreHoleSet& set, FrmMain& form);
 
 // The lines and labels of the model's rows, and the fixed horizon.
 void DrawFixedHorizon(FrmMain& form);
-void DrawRowMarks(FrmMain& form, const ModelRows& rows);
+void DrawRowMarks(BoreHoleSet& set, FrmMain& form, const ModelRows& rows);
 
 }  // namespace ostraline

@@ -38,9 +38,9 @@ struct EventEdges {
   Single lower;
 };
 
-EventEdges EdgesOf(long row) {
-  return {CellNumber(EventList(EventColumnTop, row)),
-          CellNumber(EventList(EventColumnBottom, row))};
+EventEdges EdgesOf(BoreHoleSet& set, long row) {
+  return {CellNumber(set.EventList(EventColumnTop, row)),
+          CellNumber(set.EventList(EventColumnBottom, row))};
 }
 
 void PaintEventBand(PictureBox& column, const EventEdges& edges, long colour) {
@@ -53,8 +53,8 @@ void PaintVoid(PictureBox& column, const EventEdges& edges) {
   column.Line(0, edges.lower, column.ScaleWidth, edges.upper, kDarkGrey);
 }
 
-PictureBox& HoleColumn(FrmMain& form, long row) {
-  return form.BoreHole(BHNo(EventList(1, row)));
+PictureBox& HoleColumn(BoreHoleSet& set, FrmMain& form, long row) {
+  return form.BoreHole(BHNo(set, set.EventList(1, row)));
 }
 
 bool Contains(std::string_view text, std::string_view lower, std::string_view capital) {
@@ -86,7 +86,7 @@ std::string GetTephraName(const std::string& text) {
   return {};
 }
 
-void DrawEvents() {
+void DrawEvents(BoreHoleSet& set) {
   FrmMain& form = *frmMain;
   ChooseEventColumns();
   PictureBox& composite = form.BoreHole(0);
@@ -94,37 +94,37 @@ void DrawEvents() {
   const float bottom = composite.ScaleTop + composite.ScaleHeight;
   std::vector<long> tephras;
   std::vector<long> voids;
-  for (long r = 1; r <= EventCount; ++r) {
-    const EventEdges edges = EdgesOf(r);
+  for (long r = 1; r <= set.EventCount; ++r) {
+    const EventEdges edges = EdgesOf(set, r);
     const bool inView = (edges.lower >= top && edges.lower <= bottom) ||
                         (edges.upper >= top && edges.upper <= bottom) ||
                         (edges.upper <= top && edges.lower >= bottom);
     if (!inView) continue;
-    const std::string& description = EventList(5, r);
+    const std::string& description = set.EventList(5, r);
     if (IsTephra(description)) {
       tephras.push_back(r);
     } else if (IsVoid(description)) {
       voids.push_back(r);
     } else {
-      PaintEventBand(HoleColumn(form, r), edges, kEventYellow);
+      PaintEventBand(HoleColumn(set, form, r), edges, kEventYellow);
       PaintEventBand(composite, edges, kEventYellow);
     }
   }
   const bool labelled = !form.mnuSize(1).Checked;
   const double offset = LabelOffset(form, 60, 6);
   for (long r : tephras) {
-    const EventEdges edges = EdgesOf(r);
-    PaintEventBand(HoleColumn(form, r), edges, kTephraBlue);
+    const EventEdges edges = EdgesOf(set, r);
+    PaintEventBand(HoleColumn(set, form, r), edges, kTephraBlue);
     PaintEventBand(composite, edges, kTephraBlue);
     if (labelled) {
       composite.CurrentX = 0.2f;
       composite.CurrentY = AsSingle(edges.upper - offset);
-      composite.Print(GetTephraName(EventList(5, r)));
+      composite.Print(GetTephraName(set.EventList(5, r)));
     }
   }
   for (long r : voids) {
-    const EventEdges edges = EdgesOf(r);
-    PaintVoid(HoleColumn(form, r), edges);
+    const EventEdges edges = EdgesOf(set, r);
+    PaintVoid(HoleColumn(set, form, r), edges);
     PaintVoid(composite, edges);
   }
 }

@@ -135,7 +135,7 @@ void MarkFixedHorizon(PictureBox& strip) {
 
 }  // namespace
 
-void DrawBH5() {
+void DrawBH5(BoreHoleSet& set) {
   FrmMain& form = *frmMain;
   PictureBox& strip = form.BoreHole(5);
   const PictureBox& composite = form.BoreHole(0);
@@ -150,10 +150,11 @@ void DrawBH5() {
   double ageTop = 0;
   double ageEnd = 0;
   if (ageScale) {
-    ageTop = GetAgeFromCD(composite.ScaleTop).ToDouble();
-    ageEnd = GetAgeFromCD(composite.ScaleTop + composite.ScaleHeight).ToDouble();
+    ageTop = GetAgeFromCD(set, composite.ScaleTop).ToDouble();
+    ageEnd = GetAgeFromCD(set, composite.ScaleTop + composite.ScaleHeight).ToDouble();
   }
-  if (VarveCountsLoaded) strip.LineBF(8.2f, VarveTopCD, kAxis, VarveBottomCD, kVarveBand);
+  if (set.VarveCountsLoaded)
+    strip.LineBF(8.2f, set.VarveTopCD, kAxis, set.VarveBottomCD, kVarveBand);
   if (form.mnuHorizontalBH.Checked) MarkFixedHorizon(strip);
   if (ageScale) {
     DrawAgeScale(strip, ageTop, ageEnd);
