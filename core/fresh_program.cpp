@@ -6,6 +6,7 @@
 #include "events/batch_state.h"
 #include "events/event_state.h"
 #include "forms/form.h"
+#include "proxies/proxy_records.h"
 
 namespace ostraline {
 
@@ -16,6 +17,8 @@ void ResetProgramState() {
   displayState = DisplayState{};
   eventState = EventState{};
   batchState = BatchState{};
+  masterProxies = ProxyRecords{};
+  proxyState = ProxyState{};
 }
 
 }  // namespace ostraline

@@ -1,9 +1,11 @@
 #include "desktop/form_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QCursor>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTimer>
 #include <algorithm>
 
 #include "desktop/adapters.h"
@@ -20,6 +22,8 @@ namespace {
 constexpr int kBorderPixels = 4;
 constexpr int kCaptionPixels = 23;
 constexpr int kMenuBarPixels = 20;
+
+unsigned long g_showCount = 0;
 
 std::unique_ptr<ControlAdapter> MakeAdapter(Control& control, QWidget* parent, QWidget* canvas) {
   switch (control.Kind()) {
@@ -145,6 +149,7 @@ void FormWindow::SyncForm(std::string_view property) {
   if (property == "Refresh") canvas_->repaint();
   if (all || property == "Visible") {
     if (form_->Visible.Get()) {
+      shownOrder_ = ++g_showCount;
       show();
       raise();
       activateWindow();
@@ -174,6 +179,31 @@ void FormWindow::Popup(const Menu& menu) {
 QWidget* FormWindow::WidgetOf(const Control& control) const {
   const ControlAdapter* adapter = AdapterOf(control);
   return adapter == nullptr ? nullptr : adapter->Widget();
+}
+
+bool FormWindow::event(QEvent* event) {
+  // A disabled form cannot be activated, but a window manager does not know
+  // it is disabled and may raise it over the dialog that disabled it. The
+  // newest shown enabled form takes the activation instead.
+  if (event->type() == QEvent::WindowActivate && !isEnabled()) {
+    FormWindow* newest = nullptr;
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+      auto* other = dynamic_cast<FormWindow*>(widget);
+      if (other == nullptr || other == this || other->form_ == nullptr || !other->isVisible() ||
+          !other->isEnabled()) {
+        continue;
+      }
+      if (newest == nullptr || other->shownOrder_ > newest->shownOrder_) newest = other;
+    }
+    if (newest != nullptr) {
+      // After this activation has run its course.
+      QTimer::singleShot(0, newest, [newest] {
+        newest->raise();
+        newest->activateWindow();
+      });
+    }
+  }
+  return QMainWindow::event(event);
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {

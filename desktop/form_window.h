@@ -30,6 +30,7 @@ class FormWindow : public QMainWindow {
   QWidget* WidgetOf(const Control& control) const;
 
  protected:
+  bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
@@ -46,6 +47,9 @@ class FormWindow : public QMainWindow {
   Form* form_;
   FormCanvas* canvas_;
   bool hasMenuBar_ = false;
+  // When the form was last shown: the newest enabled window takes the
+  // activation a disabled one refuses.
+  unsigned long shownOrder_ = 0;
   std::unordered_map<const Control*, std::unique_ptr<ControlAdapter>> adapters_;
 };
 

@@ -7,6 +7,8 @@
 #include "display/scale_strip.h"
 #include "events/event_state.h"
 #include "forms/frm_main.h"
+#include "proxies/proxy_panel.h"
+#include "proxies/proxy_records.h"
 
 namespace ostraline {
 namespace {
@@ -26,14 +28,17 @@ void CommitColumns(FrmMain& form) {
   for (int i = 0; i <= 5; ++i) form.BoreHole(i).CommitImage();
 }
 
-// The panels follow the columns' depth window. A loaded panel draws its
-// record here once proxy records can be imported; until then every panel
-// shows its background.
+// The panels follow the columns' depth window: a loaded panel draws its
+// record, any other shows its background.
 void ScalePanels(FrmMain& form) {
   for (int i = 0; i <= 4; ++i) {
     PictureBox& panel = form.Picture1(i);
     panel.ScaleTop = form.BoreHole(0).ScaleTop.Get();
     panel.ScaleHeight = form.BoreHole(0).ScaleHeight.Get();
+    if (ProxyLoaded(i)) {
+      DrawProxy(i);
+      continue;
+    }
     const float left = panel.ScaleLeft;
     const float top = panel.ScaleTop;
     panel.LineBF(left, top, left + panel.ScaleWidth, top + panel.ScaleHeight, panel.BackColor);

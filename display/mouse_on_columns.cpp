@@ -14,6 +14,7 @@
 #include "forms/frm_divider.h"
 #include "forms/frm_main.h"
 #include "forms/platform.h"
+#include "proxies/proxy_records.h"
 #include "runtime/number_text.h"
 
 namespace ostraline {
@@ -184,9 +185,13 @@ void FrmMain::BoreHole_MouseDown(int index, int button, int shift, float x, floa
   break98.Visible = false;
 }
 
-// Panels have no proxy records yet, and a panel without one ignores the pointer.
-void FrmMain::Picture1_MouseMove(int /*index*/, int /*button*/, int /*shift*/, float /*x*/,
-                                 float /*y*/) {}
+// A panel without a record ignores the pointer.
+void FrmMain::Picture1_MouseMove(int index, int /*button*/, int /*shift*/, float /*x*/, float y) {
+  if (!ProxyLoaded(index)) return;
+  Picture1(index).ToolTipText = mnuFilename(index).Checked ? ProxyFileName(index) : std::string();
+  TargetLine(y);
+  Screen.SetMousePointer(2);
+}
 
 void FrmMain::Picture1_MouseDown(int index, int button, int shift, float x, float y) {
   if (button == 2) {

@@ -1,12 +1,15 @@
 #include "display/target_line.h"
 
+#include "display/display_state.h"
 #include "forms/frm_main.h"
 #include "forms/platform.h"
+#include "proxies/proxy_records.h"
 
 namespace ostraline {
 namespace {
 
 constexpr long kOrange = RGB(255, 150, 0);
+constexpr long kGreen = RGB(0, 170, 0);
 
 void LineAcross(PictureBox& surface, Single y) {
   surface.Cls();
@@ -14,17 +17,32 @@ void LineAcross(PictureBox& surface, Single y) {
   surface.Refresh();
 }
 
+// A loaded panel keeps the target marked under the pointer's line.
+void MarkTarget(PictureBox& panel) {
+  const float y = panel.ScaleTop + static_cast<float>(ViewSpan) / 2;
+  panel.Line(panel.ScaleLeft, y, panel.ScaleLeft + panel.ScaleWidth, y, kGreen);
+}
+
 }  // namespace
 
-// The proxy panels keep their green target line under the overlay once
-// proxy records can be loaded; the Duo form's overlay joins here once the Duo
-// has its columns.
+void MarkTargetsOnPanels() {
+  FrmMain& form = *frmMain;
+  for (int i = 0; i <= 4; ++i) {
+    if (ProxyLoaded(i)) MarkTarget(form.Picture1(i));
+  }
+}
+
+// The Duo form's overlay joins here once the Duo has its columns.
 void TargetLine(Single y) {
   FrmMain& form = *frmMain;
   if (form.mnuHorizontal.Checked) {
     for (int i = 0; i <= 4; ++i) {
       LineAcross(form.BoreHole(i), y);
-      LineAcross(form.Picture1(i), y);
+      PictureBox& panel = form.Picture1(i);
+      panel.Cls();
+      panel.Line(panel.ScaleLeft, y, panel.ScaleLeft + panel.ScaleWidth, y, kOrange);
+      if (ProxyLoaded(i)) MarkTarget(panel);
+      panel.Refresh();
     }
   }
   PictureBox& strip = form.BoreHole(5);
@@ -41,6 +59,7 @@ void ClearTargetLine() {
   for (int i = 0; i <= 4; ++i) {
     form.BoreHole(i).Cls();
     form.Picture1(i).Cls();
+    if (ProxyLoaded(i)) MarkTarget(form.Picture1(i));
   }
   form.BoreHole(5).Cls();
   Screen.SetMousePointer(0);

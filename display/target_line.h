@@ -8,7 +8,10 @@ namespace ostraline {
 
 // Paints the overlay at depth y on the selected scale.
 void TargetLine(Single y);
-// Erases the overlay of the main form.
+// Erases the overlay of the main form; the loaded proxy panels keep their
+// green mark of the target.
 void ClearTargetLine();
+// The green mark of the target at the centre of each loaded panel's view.
+void MarkTargetsOnPanels();
 
 }  // namespace ostraline

@@ -12,19 +12,8 @@ constexpr const char* kSpanCaptions[] = {"20 cm", "50 cm", "1 m",  "2 m",       
                                          "10 m",  "20 m",  "50 m", "Whole core"};
 constexpr const char* kDigitCaptions[] = {"0", "0.1", "0.01", "0.001", "0.0001"};
 
-void SetCaption(CommandButton& c, const char* text) {
-  c.Caption.SetQuietly(text);
-}
-void SetCaption(Label& c, const char* text) {
-  c.Caption.SetQuietly(text);
-}
-void SetCaption(OptionButton& c, const char* text) {
-  c.Caption.SetQuietly(text);
-}
-void SetCaption(Frame& c, const char* text) {
-  c.Caption.SetQuietly(text);
-}
-void SetCaption(Menu& c, const char* text) {
+template <class Captioned>
+void SetCaption(Captioned& c, const char* text) {
   c.Caption.SetQuietly(text);
 }
 
@@ -202,7 +191,8 @@ void FrmMain::Layout() {
     import.Place(panelLefts[p], 0, 1575, 240);
     Text5.Add(p).Place(panelLefts[p], 8760, 780, 285);
     Text6.Add(p).Place(panelLefts[p] + 795, 8760, 780, 285);
-    Check1.Add(p).Place(panelLefts[p], 9030, 1575, 255);
+    SetCaption(Check1.Add(p), "Ratio");
+    Check1(p).Place(panelLefts[p], 9030, 1575, 255);
     Combo3.Add(p).Place(panelLefts[p], 9300, 1575, 315);
     Combo4.Add(p).Place(panelLefts[p], 9630, 1575, 315);
   }
@@ -328,8 +318,8 @@ void FrmMain::BuildMenus() {
     SetCaption(popup, "Panel");
     popup.Visible.SetQuietly(false);
     AddMenu(popup);
-    SetCaption(mnuFlipH.Add(p), "Flip horizontally");
-    SetCaption(mnuLine.Add(p), "Line");
+    SetCaption(mnuFlipH.Add(p), "Flip horizontal");
+    SetCaption(mnuLine.Add(p), "Curve");
     SetCaption(mnuMarker.Add(p), "Marker");
     SetCaption(mnuHorizontalN.Add(p), "Horizontal line");
     SetCaption(mnuSmooth.Add(p), "Smoothing");
@@ -351,7 +341,7 @@ void FrmMain::BuildMenus() {
       mnuSmooth(p).Add(*entry);
     }
     if (p == 0) {
-      SetCaption(mnuMulti_0, "All panels alike");
+      SetCaption(mnuMulti_0, "Multiple colour");
       mnuMulti_0.Checked.SetQuietly(true);
       popup.Add(mnuMulti_0);
     }

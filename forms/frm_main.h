@@ -181,6 +181,25 @@ class FrmMain : public Form {
   // Batch conversion of a data file.
   void Command2_Click();
 
+  // Proxy panels.
+  void Command6_Click(int p);
+  void Combo3_Click(int p);
+  void Combo4_Click(int p);
+  void Check1_Click(int p);
+  void Text5_Change(int p);
+  void Text6_Change(int p);
+  void mnuFlipH_Click(int p);
+  void mnuLine_Click(int p);
+  void mnuMarker_Click(int p);
+  void mnuMulti_0_Click();
+  void mnuFlat3__Click(int p);
+  void mnuFlat5__Click(int p);
+  void mnuFlat11__Click(int p);
+  void mnuFlat208__Click(int p);
+  void mnuCopy_Click(int p);
+  void mnuFilename_Click(int p);
+  void mnuExport__Click(int p);
+
   // What the columns show.
   void mnuShowTiePoints_Click();
   void mnuShowLabCodes_Click();

@@ -9,6 +9,27 @@ void FrmMain::WireHandlers() {
   Command3.Click = [this] { Command3_Click(); };
   Command4.Click = [this] { Command4_Click(); };
   Command5.Click = [this] { Command5_Click(); };
+  // The proxy panels.
+  Command6.ForEach([this](CommandButton& button) {
+    const int p = button.Index();
+    button.Click = [this, p] { Command6_Click(p); };
+    Combo3(p).Click = [this, p] { Combo3_Click(p); };
+    Combo4(p).Click = [this, p] { Combo4_Click(p); };
+    Check1(p).Click = [this, p] { Check1_Click(p); };
+    Text5(p).Change = [this, p] { Text5_Change(p); };
+    Text6(p).Change = [this, p] { Text6_Change(p); };
+    mnuFlipH(p).Click = [this, p] { mnuFlipH_Click(p); };
+    mnuLine(p).Click = [this, p] { mnuLine_Click(p); };
+    mnuMarker(p).Click = [this, p] { mnuMarker_Click(p); };
+    mnuFlat3_(p).Click = [this, p] { mnuFlat3__Click(p); };
+    mnuFlat5_(p).Click = [this, p] { mnuFlat5__Click(p); };
+    mnuFlat11_(p).Click = [this, p] { mnuFlat11__Click(p); };
+    mnuFlat208_(p).Click = [this, p] { mnuFlat208__Click(p); };
+    mnuCopy(p).Click = [this, p] { mnuCopy_Click(p); };
+    mnuFilename(p).Click = [this, p] { mnuFilename_Click(p); };
+    mnuExport_(p).Click = [this, p] { mnuExport__Click(p); };
+  });
+  mnuMulti_0.Click = [this] { mnuMulti_0_Click(); };
   Text4.GotFocus = [this] { Text4_GotFocus(); };
   Text4.Change = [this] { Text4_Change(); };
   Label1(8).Change = [this] { Label1_Change(8); };

@@ -9,6 +9,8 @@
 #include "events/event_free_depth.h"
 #include "events/event_state.h"
 #include "forms/frm_main.h"
+#include "forms/frm_select.h"
+#include "proxies/proxy_records.h"
 #include "runtime/number_text.h"
 #include "support/fresh_program.h"
 
@@ -115,6 +117,47 @@ TEST_F(SampleProject, TypedDepthAfterVarvesShowsTheUnitOfTheRecordsEnd) {
   form.Text2.Text = "1489.6";  // the hybrid stretch of the batch
   EXPECT_EQ(form.Text4.Text.Get(), "14205");
   EXPECT_EQ(form.Label7.Caption.Get(), "Age (varve yr BP)");
+}
+
+// The four proxy records, each by its own layout; those with a single
+// position number go through frmSelect.
+TEST_F(SampleProject, ProxyRecordsIntoTheirPanels) {
+  ImportModelEventsAndAges();
+  const auto importProxy = [&](int p, const std::string& file) {
+    platform.QueueFile(Sample(file));
+    frmMain->Command6_Click(p);
+    ASSERT_TRUE(platform.messages.empty()) << platform.messages[0].text;
+  };
+  importProxy(0, "xrf_scan_for_OL.csv");
+  EXPECT_EQ(ProxyFileName(0), "xrf_scan");
+  EXPECT_FALSE(ProxyHasLabel(0) || ProxyHasTrinity(0));
+  EXPECT_EQ(ProxyColumnCount(0), 4);
+  EXPECT_EQ(ProxyRowCount(0), 1401);
+  ASSERT_TRUE(frmSelect->Visible);
+  frmSelect->Command1_Click();  // composite depth
+
+  importProxy(1, "pollen_percentages.csv");
+  EXPECT_TRUE(ProxyHasLabel(1));
+  EXPECT_FALSE(ProxyHasTrinity(1));
+  EXPECT_EQ(ProxyColumnCount(1), 5);
+  EXPECT_EQ(ProxyRowCount(1), 64);
+  ASSERT_TRUE(frmSelect->Option1(1).Enabled);
+  frmSelect->Option1(1).Value = true;  // ages before 1950
+  frmSelect->Command1_Click();
+  EXPECT_TRUE(frmMain->Enabled);
+
+  importProxy(2, "core_logging_bore_hole_A.csv");
+  EXPECT_TRUE(ProxyHasTrinity(2));
+  EXPECT_FALSE(ProxyHasLabel(2));
+  EXPECT_EQ(ProxyColumnCount(2), 2);
+  EXPECT_EQ(ProxyRowCount(2), 1630);
+
+  importProxy(3, "grain_size_samples.csv");
+  EXPECT_TRUE(ProxyHasTrinity(3) && ProxyHasLabel(3));
+  EXPECT_EQ(ProxyColumnCount(3), 4);
+  EXPECT_EQ(ProxyRowCount(3), 147);
+  EXPECT_TRUE(frmMain->Enabled);
+  for (int p = 0; p <= 3; ++p) EXPECT_TRUE(ProxyLoaded(p)) << p;
 }
 
 }  // namespace

@@ -1,0 +1,368 @@
+#include <algorithm>
+#include <functional>
+#include <limits>
+#include <optional>
+#include <set>
+#include <utility>
+#include <vector>
+
+#include "forms/frm2_main.h"
+#include "forms/frm_export.h"
+#include "forms/frm_main.h"
+#include "proxies/proxy_records.h"
+#include "proxies/smoothing.h"
+#include "support/fresh_program.h"
+
+namespace ostraline {
+namespace {
+
+constexpr long kRed = 255;
+using Smoother = void (*)(int, long, long);
+constexpr long kNothingHidden = std::numeric_limits<long>::max();
+
+std::optional<FailureKind> FailureOf(const std::function<void()>& run) {
+  try {
+    run();
+  } catch (const RuntimeFailure& failure) {
+    return failure.Kind();
+  }
+  return std::nullopt;
+}
+
+class Smoothing : public FreshProgram {
+ protected:
+  // A record of `rows` rows on panel p, plotted as DrawProxy leaves it, with
+  // the panel's scale around all of it.
+  void Load(int p, long rows, const std::function<Single(long)>& value,
+            const std::function<Single(long)>& depth) {
+    ProxyRowCount(p) = rows;
+    ProxyDepth(p).Dim({{0, 3}, {0, rows}});
+    ProxyPlot.Dim({{0, 2}, {0, rows}});
+    PlotScale = 1;
+    Single lowest = 0;
+    Single highest = 1;
+    for (long k = 1; k <= rows; ++k) {
+      ProxyPlot(0, k) = value(k);
+      ProxyDepth(p)(1, k) = depth(k);
+      // Another scale's positions, which the overlay must not read.
+      ProxyDepth(p)(2, k) = -depth(k);
+      highest = std::max(highest, std::max(value(k), depth(k)));
+      lowest = std::min(lowest, std::min(value(k), depth(k)));
+    }
+    PictureBox& panel = frmMain->Picture1(p);
+    panel.Cls();
+    panel.ScaleLeft = lowest;
+    panel.ScaleWidth = highest - lowest + 1;
+    panel.ScaleTop = lowest;
+    panel.ScaleHeight = highest - lowest + 1;
+  }
+  // Row k plots k at depth 2k: a mean over a window is then its centre row.
+  void LoadLinear(int p, long rows) {
+    Load(
+        p, rows, [](long k) { return static_cast<Single>(k); },
+        [](long k) { return static_cast<Single>(2 * k); });
+  }
+  static std::vector<DrawOp> Segments(int p) {
+    std::vector<DrawOp> red;
+    for (const DrawOp& op : frmMain->Picture1(p).WorkingOps()) {
+      if (op.kind == DrawKind::Line && op.colour == kRed) red.push_back(op);
+    }
+    return red;
+  }
+  // The rows i of the drawn segments, from the first mean of a linear record.
+  static std::set<long> RowsDrawn(int p) {
+    std::set<long> rows;
+    for (const DrawOp& op : Segments(p)) rows.insert(static_cast<long>(op.ux1));
+    return rows;
+  }
+};
+
+TEST_F(Smoothing, GuardsAndTableEndsDecideWhetherAnOverlayIsDrawn) {
+  struct Case {
+    Smoother smooth;
+    long rows;
+    bool fails;
+    std::size_t segments;
+  };
+  const Case cases[] = {
+      // 208 rows pass the guard, then the first pass reads row 209.
+      {SmoothProxy208, 207, false, 0},
+      {SmoothProxy208, 208, true, 0},
+      {SmoothProxy208, 209, false, 1},
+      {SmoothProxy208, 210, false, 1},
+      {SmoothProxy208, 211, false, 2},
+      {SmoothProxy11, 10, false, 0},
+      {SmoothProxy11, 11, true, 0},
+      {SmoothProxy11, 12, false, 1},
+      // No guard at all for the small windows.
+      {SmoothProxy5, 5, true, 0},
+      {SmoothProxy5, 6, false, 1},
+      {SmoothProxy3, 3, true, 0},
+      {SmoothProxy3, 4, false, 1},
+      {SmoothProxy3, 30, false, 26},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(testing::Message() << c.rows << " rows, case " << (&c - cases));
+    LoadLinear(2, c.rows);
+    const std::optional<FailureKind> failure = FailureOf([&] { c.smooth(2, 0, kNothingHidden); });
+    EXPECT_EQ(failure, c.fails ? std::optional(FailureKind::SubscriptOutOfRange) : std::nullopt);
+    EXPECT_EQ(Segments(2).size(), c.segments);
+    for (const DrawOp& op : Segments(2)) EXPECT_EQ(op.drawWidth, 2);
+    // A failure leaves the wide pen to the drawing's handler.
+    EXPECT_EQ(frmMain->Picture1(2).DrawWidth, c.fails ? 2 : 1);
+    frmMain->Picture1(2).DrawWidth = 1;
+  }
+
+  // The even window is centred half a row above i; the last row enters no mean.
+  LoadLinear(2, 209);
+  SmoothProxy208(2, 0);
+  ASSERT_EQ(Segments(2).size(), 1u);
+  const DrawOp only = Segments(2)[0];
+  EXPECT_EQ(only.ux1, 104.5f);
+  EXPECT_EQ(only.uy1, 209.0f);
+  EXPECT_EQ(only.ux2, 105.5f);
+  EXPECT_EQ(only.uy2, 211.0f);
+  LoadLinear(2, 30);
+  SmoothProxy3(2, 0);
+  EXPECT_EQ(Segments(2).front().ux1, 2.0f);
+  EXPECT_EQ(Segments(2).back().ux2, 28.0f);
+}
+
+TEST_F(Smoothing, StartsAtTheFirstRowOfTheView) {
+  LoadLinear(0, 500);
+  SmoothProxy11(0, 400);
+  EXPECT_EQ(Segments(0).size(), 94u);
+  EXPECT_EQ(Segments(0).front().ux1, 400.0f);
+  EXPECT_EQ(Segments(0).front().uy1, 800.0f);
+
+  // The first mean reaches back to row 395, not further.
+  ProxyPlot(0, 394) = 9999;
+  frmMain->Picture1(0).Cls();
+  SmoothProxy11(0, 400);
+  EXPECT_EQ(*RowsDrawn(0).begin(), 400);
+  ProxyPlot(0, 395) = 9999;
+  frmMain->Picture1(0).Cls();
+  SmoothProxy11(0, 400);
+  EXPECT_EQ(*RowsDrawn(0).begin(), 401);
+
+  // Below the lowest first row, the overlay starts at its first full window.
+  const std::pair<Smoother, Single> firstMeans[] = {{SmoothProxy11, 6.0f},
+                                                    {SmoothProxy208, 104.5f}};
+  for (auto [smooth, first] : firstMeans) {
+    LoadLinear(0, 500);
+    smooth(0, 1, kNothingHidden);
+    EXPECT_EQ(Segments(0).front().ux1, first);
+  }
+}
+
+TEST_F(Smoothing, BadRowsTakeOutTheSegmentsThatTestThem) {
+  auto allBut = [](long from, long to) {
+    std::set<long> rows;
+    for (long i = 3; i <= 36; ++i) {
+      if (i < from || i > to) rows.insert(i);
+    }
+    return rows;
+  };
+  LoadLinear(4, 40);
+  SmoothProxy5(4, 0);
+  EXPECT_EQ(RowsDrawn(4), allBut(0, 0));
+
+  // A row without a value: the window and one segment more.
+  LoadLinear(4, 40);
+  ProxyPlot(0, 20) = -9999;
+  SmoothProxy5(4, 0);
+  EXPECT_EQ(RowsDrawn(4), allBut(17, 22));
+
+  // Equal depths are no reversal.
+  LoadLinear(4, 40);
+  ProxyDepth(4)(1, 20) = ProxyDepth(4)(1, 19);
+  SmoothProxy5(4, 0);
+  EXPECT_EQ(RowsDrawn(4), allBut(0, 0));
+
+  // A depth of 9999 is no gap by itself, only by the fall to the next row,
+  // so the segment before the fall takes it into its mean.
+  LoadLinear(4, 40);
+  ProxyDepth(4)(1, 20) = 9999;
+  SmoothProxy5(4, 0);
+  EXPECT_EQ(RowsDrawn(4), allBut(18, 22));
+  const DrawOp before = Segments(4)[17 - 3];
+  EXPECT_EQ(before.uy2, (32.0f + 34 + 36 + 38 + 9999) / 5);
+}
+
+TEST_F(Smoothing, MeansAreSinglePrecisionInTheirOrderOfAdditions) {
+  Load(
+      1, 40, [](long k) { return static_cast<Single>(k) / 3.0f + 1.0f / static_cast<Single>(k); },
+      [](long k) { return 100.0f + static_cast<Single>(k) / 1.3f; });
+  auto value = [](long k) { return ProxyPlot(0, k); };
+  auto depth = [](long k) { return ProxyDepth(1)(1, k); };
+
+  // Window 11 at i = 11: rows 7 to 16 once, then row 6 for the start and
+  // row 17 for the end. Here the plain order from row 6 gives other bits.
+  SmoothProxy11(1, 0);
+  Single sharedX = 0;
+  Single sharedY = 0;
+  for (long k = 7; k <= 16; ++k) {
+    sharedX += value(k);
+    sharedY += depth(k);
+  }
+  Single plainX = 0;
+  Single plainY = 0;
+  for (long k = 6; k <= 16; ++k) {
+    plainX += value(k);
+    plainY += depth(k);
+  }
+  ASSERT_NE((sharedX + value(6)) / 11, plainX / 11);
+  ASSERT_NE((sharedY + depth(6)) / 11, plainY / 11);
+  const DrawOp at11 = Segments(1).at(11 - 6);
+  EXPECT_EQ(at11.ux1, (sharedX + value(6)) / 11);
+  EXPECT_EQ(at11.uy1, (sharedY + depth(6)) / 11);
+  EXPECT_EQ(at11.ux2, (sharedX + value(17)) / 11);
+  EXPECT_EQ(at11.uy2, (sharedY + depth(17)) / 11);
+
+  // Window 3 at i = 6 adds from the top row down.
+  frmMain->Picture1(1).Cls();
+  SmoothProxy3(1, 0);
+  const Single downwards = value(5) + value(6) + value(7);
+  ASSERT_NE(downwards / 3, (value(7) + value(6) + value(5)) / 3);
+  EXPECT_EQ(Segments(1).at(6 - 2).ux1, downwards / 3);
+  EXPECT_EQ(Segments(1).at(6 - 2).ux2, (value(6) + value(7) + value(8)) / 3);
+}
+
+// A record with gaps, a reversal and a run of equal values, seen through a
+// short view; below the view's bottom its depths jump to 9999, so that the
+// last segments that show reach down into the rows left out.
+TEST_F(Smoothing, LeavingOutRowsBelowTheViewChangesNothingDrawn) {
+  const long rows = 600;
+  Load(
+      3, rows,
+      [](long k) {
+        if (k == 20 || k == 420) return 9999.0f;
+        if (k == 450) return -9999.0f;
+        if (k >= 100 && k <= 110) return 5.0f;
+        return static_cast<Single>(k * 7919 % 100) / 10.0f;
+      },
+      [](long k) {
+        if (k > 240) return 9999.0f;
+        return k == 30 ? static_cast<Single>(k) / 2 - 3 : static_cast<Single>(k) / 2;
+      });
+  PictureBox& panel = frmMain->Picture1(3);
+  panel.ScaleLeft = 0;
+  panel.ScaleWidth = 10;
+  panel.ScaleTop = 100;
+  panel.ScaleHeight = 20;
+  const Single limit = 100 + 3 * 20;
+  long hidden = rows + 1;
+  while (hidden > 1 && ProxyDepth(3)(1, hidden - 1) > limit) --hidden;
+  ASSERT_EQ(hidden, 241);
+
+  for (Smoother smooth : {SmoothProxy3, SmoothProxy5, SmoothProxy11, SmoothProxy208}) {
+    for (long first : {0L, 120L}) {
+      panel.Cls();
+      smooth(3, first, rows + 1);
+      const std::vector<DrawOp> plain = Segments(3);
+      panel.Cls();
+      smooth(3, first, hidden);
+      const std::vector<DrawOp> shortened = Segments(3);
+      ASSERT_FALSE(plain.empty());
+      ASSERT_EQ(shortened.size(), plain.size());
+      for (std::size_t k = 0; k < plain.size(); ++k) {
+        EXPECT_EQ(shortened[k].ux1, plain[k].ux1);
+        EXPECT_EQ(shortened[k].uy1, plain[k].uy1);
+        EXPECT_EQ(shortened[k].ux2, plain[k].ux2);
+        EXPECT_EQ(shortened[k].uy2, plain[k].uy2);
+      }
+    }
+    // The first pass runs whatever lies below the view, and fails past the end.
+    EXPECT_EQ(FailureOf([&] { smooth(3, rows - 1, hidden); }), FailureKind::SubscriptOutOfRange);
+  }
+}
+
+using PanelMenus = FreshProgram;
+
+TEST_F(PanelMenus, OneSmoothingEntryAtATimeOnEachPanel) {
+  FrmMain& form = *frmMain;
+  auto checked = [&form](int p) {
+    return std::vector<bool>{form.mnuFlat3_(p).Checked, form.mnuFlat5_(p).Checked,
+                             form.mnuFlat11_(p).Checked, form.mnuFlat208_(p).Checked};
+  };
+  form.mnuFlat3_(1).Click();
+  EXPECT_EQ(checked(1), (std::vector<bool>{true, false, false, false}));
+  form.mnuFlat5_(1).Click();
+  EXPECT_EQ(checked(1), (std::vector<bool>{false, true, false, false}));
+  form.mnuFlat208_(2).Click();
+  EXPECT_EQ(checked(1), (std::vector<bool>{false, true, false, false}));
+  EXPECT_EQ(checked(2), (std::vector<bool>{false, false, false, true}));
+  form.mnuFlat5_(1).Click();
+  EXPECT_EQ(checked(1), (std::vector<bool>{false, false, false, false}));
+}
+
+TEST_F(PanelMenus, FlipAndTheCheckMarks) {
+  FrmMain& form = *frmMain;
+  form.Text5(2).Text = "-1.5";
+  form.Text6(2).Text = "40";
+  form.mnuFlipH(2).Click();
+  EXPECT_EQ(form.Text5(2).Text.Get(), "40");
+  EXPECT_EQ(form.Text6(2).Text.Get(), "-1.5");
+  form.mnuFlipH(2).Click();
+  EXPECT_EQ(form.Text5(2).Text.Get(), "-1.5");
+  EXPECT_EQ(form.Text6(2).Text.Get(), "40");
+
+  form.mnuLine(3).Click();
+  form.mnuMarker(3).Click();
+  form.mnuMulti_0.Click();
+  EXPECT_FALSE(form.mnuLine(3).Checked);
+  EXPECT_FALSE(form.mnuMarker(3).Checked);
+  EXPECT_FALSE(form.mnuMulti_0.Checked);
+  EXPECT_TRUE(form.mnuLine(2).Checked);
+
+  // The file name's mark draws nothing.
+  const unsigned long revision = form.Picture1(3).Revision();
+  form.mnuFilename(3).Click();
+  EXPECT_TRUE(form.mnuFilename(3).Checked);
+  EXPECT_EQ(form.Picture1(3).Revision(), revision);
+  form.mnuFilename(3).Click();
+  EXPECT_FALSE(form.mnuFilename(3).Checked);
+}
+
+TEST_F(PanelMenus, CopyTakesTheCommittedPictureWithoutTheTargetLine) {
+  FrmMain& form = *frmMain;
+  PictureBox& panel = form.Picture1(3);
+  panel.ScaleLeft = 0;
+  panel.ScaleWidth = 10;
+  panel.ScaleTop = 100;
+  panel.ScaleHeight = 50;
+  panel.LineBF(0, 100, 10, 120, RGB(170, 170, 170));
+  panel.Line(2, 110, 8, 140, kRed);
+  panel.CommitImage();
+  panel.Line(0, 125, 10, 125, RGB(255, 150, 0));
+
+  form.mnuCopy(3).Click();
+  ASSERT_TRUE(platform.clipboard.has_value());
+  ASSERT_EQ(platform.clipboard->ops.size(), 2u);
+  EXPECT_EQ(platform.clipboard->ops[0].kind, DrawKind::Box);
+  EXPECT_EQ(platform.clipboard->ops[1].colour, kRed);
+  EXPECT_EQ(platform.clipboard->width, panel.InnerWidth());
+}
+
+TEST_F(PanelMenus, ExportOpensTheDialogForThePanelAndDisablesTheMainForms) {
+  FrmMain& form = *frmMain;
+  platform.SetMousePointer(2);
+  form.mnuExport_(4).Click();
+  ASSERT_TRUE(frmExport.IsLoaded());
+  EXPECT_TRUE(frmExport->Visible);
+  EXPECT_EQ(frmExport->Label1.Caption.Get(), "4");
+  EXPECT_FALSE(form.Enabled);
+  EXPECT_EQ(platform.MousePointer(), 0);
+  // A Duo form that is not open is not loaded for this.
+  EXPECT_FALSE(frm2Main.IsLoaded());
+  frmExport.Unload();
+  EXPECT_TRUE(form.Enabled);
+
+  frm2Main->Show();
+  form.mnuExport_(0).Click();
+  EXPECT_EQ(frmExport->Label1.Caption.Get(), "0");
+  EXPECT_FALSE(frm2Main->Enabled);
+}
+
+}  // namespace
+}  // namespace ostraline
