@@ -64,7 +64,9 @@ struct ProxyState {
   // False while the program itself writes a panel's axis limits.
   BooleanFlag ProxyAxisEventsOn = true;
   // The drawing skips the rows whose lines and markers the canvas would
-  // drop; off, it computes them all (the tests compare the two).
+  // drop, and the running means read the record once into plain arrays;
+  // off, every row is computed through the tables' checked reads (the tests
+  // compare the two).
   bool DrawOnlyWhatShows = true;
 };
 

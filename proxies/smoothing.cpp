@@ -2,7 +2,9 @@
 // sizes and limits come from a table.
 #include "proxies/smoothing.h"
 
+#include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "forms/frm_main.h"
 #include "proxies/proxy_records.h"
@@ -94,6 +96,77 @@ void Means(const RunningMean& mean, int p, long i, Point& first, Point& second) 
   second = {x2 / mean.divisor, y2 / mean.divisor};
 }
 
+// The record's rows read once for a walk: the plotted values and depths, and
+// running counts of the rows without value and of the depths that fall to
+// the next row, so that a pass tests its rows in one step and sums them from
+// plain arrays. Rows past the tables are left to the checked reads, which
+// fail there as a pass would.
+class WalkRows {
+ public:
+  explicit WalkRows(int p) {
+    last_ = std::min(
+        {static_cast<long>(ProxyRowCount(p)), ProxyPlot.UBound(2), ProxyDepth(p).UBound(2)});
+    const auto count = static_cast<std::size_t>(std::max(last_ + 1, 0L));
+    plotted_.resize(count);
+    depth_.resize(count);
+    noValue_.assign(count + 1, 0);
+    falls_.assign(count + 1, 0);
+    for (long k = 0; k <= last_; ++k) {
+      plotted_[k] = Plotted(k);
+      depth_[k] = Depth(p, k);
+      noValue_[k + 1] = noValue_[k] + (std::fabs(plotted_[k]) == kNoValue ? 1 : 0);
+      if (k > 0) falls_[k] = falls_[k - 1] + (depth_[k - 1] > depth_[k] ? 1 : 0);
+    }
+  }
+
+  bool Holds(long from, long to) const { return from >= 0 && to <= last_; }
+
+  // Every row from..to has a value, and no depth falls within them.
+  bool Usable(long from, long to) const {
+    return noValue_[to + 1] == noValue_[from] && falls_[to] == falls_[from];
+  }
+
+  // The same sums as the checked reads, in the same order.
+  void Means(const RunningMean& mean, long i, Point& first, Point& second) const {
+    const Single* x = plotted_.data();
+    const Single* y = depth_.data();
+    Single x1 = 0;
+    Single y1 = 0;
+    Single x2 = 0;
+    Single y2 = 0;
+    if (mean.sharedSum) {
+      Single xs = 0;
+      Single ys = 0;
+      for (long k = i + mean.secondFrom; k <= i + mean.firstTo; ++k) {
+        xs += x[k];
+        ys += y[k];
+      }
+      x1 = xs + x[i + mean.firstFrom];
+      y1 = ys + y[i + mean.firstFrom];
+      x2 = xs + x[i + mean.secondTo];
+      y2 = ys + y[i + mean.secondTo];
+    } else {
+      for (long k = i + mean.firstFrom; k <= i + mean.firstTo; ++k) {
+        x1 += x[k];
+        y1 += y[k];
+      }
+      for (long k = i + mean.secondFrom; k <= i + mean.secondTo; ++k) {
+        x2 += x[k];
+        y2 += y[k];
+      }
+    }
+    first = {x1 / mean.divisor, y1 / mean.divisor};
+    second = {x2 / mean.divisor, y2 / mean.divisor};
+  }
+
+ private:
+  long last_ = -1;
+  std::vector<Single> plotted_;
+  std::vector<Single> depth_;
+  std::vector<long> noValue_;  // rows without value before row k
+  std::vector<long> falls_;    // rows j < k whose depth is above that of j + 1
+};
+
 // A failure inside the walk leaves DrawWidth as it is and travels on to the
 // drawing's handler. Only the first pass can fail, the later ones reading no
 // row past R-1, so it runs whatever `hidden` is; a later pass whose tested
@@ -104,11 +177,19 @@ void DrawRunningMean(const RunningMean& mean, int p, long F, long hidden) {
   if (rowCount >= mean.guard) {
     Long i = F < mean.lowestFirst ? mean.lowestFirst : F;
     panel.DrawWidth = CInt(1.5);
+    const WalkRows rows(p);
     const long last = rowCount - mean.lastBeforeEnd;
     do {
-      if (WindowsUsable(mean, p, i)) {
-        Point first;
-        Point second;
+      const long from = i + mean.testedFrom;
+      const long to = i + mean.testedTo;
+      Point first;
+      Point second;
+      if (DrawOnlyWhatShows && rows.Holds(from, to)) {
+        if (rows.Usable(from, to)) {
+          rows.Means(mean, i, first, second);
+          panel.Line(first.x, first.y, second.x, second.y, kRed);
+        }
+      } else if (WindowsUsable(mean, p, i)) {
         Means(mean, p, i, first, second);
         panel.Line(first.x, first.y, second.x, second.y, kRed);
       }

@@ -123,7 +123,7 @@ TEST_F(ProxyPanel, CurveMarkersAndGaps) {
   EXPECT_EQ(ProxyColumnB(0), 2);
   lines = Ops(DrawKind::Line, kBlue);
   ASSERT_EQ(lines.size(), 5u);
-  EXPECT_FLOAT_EQ(lines[0]->ux2, 10);  // 20 / 2
+  EXPECT_FLOAT_EQ(lines[0]->ux2, 10);   // 20 / 2
   EXPECT_FLOAT_EQ(lines[1]->uy1, 125);  // resumes after the row without value
 
   // The first row drawn is the last above the view's top, so that the curve
@@ -164,22 +164,23 @@ TEST_F(ProxyPanel, BackgroundAndEventLayers) {
   EXPECT_EQ(overlay[0].colour, RGB(0, 170, 0));
 }
 
-// The drawing skips what lies far below the view; every operation the canvas
-// keeps must be the same as the full walk's, on a record with gaps, depth
-// reversals, rows without depth and a smoothing overlay.
+// The drawing skips what lies far below the view and sums the running means
+// from plain arrays; every operation the canvas keeps must be the same as
+// the full walk's through the checked tables, on a record with gaps, depth
+// reversals, rows without depth, under each size of running mean.
 TEST_F(ProxyPanel, SkippingRowsBelowTheViewChangesNoOperation) {
   std::vector<std::string> values;
   std::vector<std::string> second;
   for (int row = 0; row < 400; ++row) {
-    values.push_back(row % 37 == 5 ? "9999" : std::to_string((row * 7919) % 100));
+    values.push_back(row % 37 == 5 ? "9999" : std::to_string((row * 7919) % 1000 / 7.0));
     second.push_back(std::to_string(1 + row % 5));
   }
   ImportColumns({"V", "W"}, {values, second});
   for (long row = 1; row <= ProxyRowCount(0); ++row) {
+    ProxyDepth(0)(1, row) += 0.137f * static_cast<float>(row % 7);
     if (row % 53 == 0) ProxyDepth(0)(1, row) = ProxyDepth(0)(1, row - 3);  // a reversal
     if (row % 71 == 0) ProxyDepth(0)(1, row) = 9999;
   }
-  frmMain->mnuFlat11_(0).Checked = true;
   const auto both = [&](float top, float height) {
     DrawOnlyWhatShows = false;
     View(top, height);
@@ -197,8 +198,14 @@ TEST_F(ProxyPanel, SkippingRowsBelowTheViewChangesNoOperation) {
           << "operation " << i << " at view top " << top;
     }
   };
-  for (float top : {100.0f, 180.0f, 400.0f, 560.0f}) both(top, 60);
-  both(100, 1000);
+  for (auto* window : {&frmMain->mnuFlat3_, &frmMain->mnuFlat11_, &frmMain->mnuFlat208_}) {
+    frmMain->mnuFlat3_(0).Checked = false;
+    frmMain->mnuFlat11_(0).Checked = false;
+    frmMain->mnuFlat208_(0).Checked = false;
+    (*window)(0).Checked = true;
+    for (float top : {100.0f, 180.0f, 400.0f, 560.0f, 1500.0f}) both(top, 60);
+    both(100, 1000);
+  }
 }
 
 }  // namespace
