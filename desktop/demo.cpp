@@ -6,6 +6,7 @@
 
 #include "desktop/shell.h"
 #include "forms/frm_main.h"
+#include "forms/frm_select.h"
 
 namespace ostraline {
 namespace {
@@ -54,8 +55,8 @@ std::string SampleProjectFolder(const std::string& programPath) {
 bool ImportSampleProject(Shell& shell, const std::string& folderPath) {
   const QDir folder(QString::fromStdString(folderPath));
   std::deque<std::string> files;
-  for (const char* stem :
-       {"correlation_model", "event_layers", "age_depth_model", "varve_counts"}) {
+  for (const char* stem : {"correlation_model", "event_layers", "age_depth_model", "varve_counts",
+                           "xrf_scan", "pollen", "core_logging", "grain_size"}) {
     const std::string file = FileStartingWith(folder, stem);
     if (file.empty()) return false;
     files.push_back(file);
@@ -67,6 +68,21 @@ bool ImportSampleProject(Shell& shell, const std::string& folderPath) {
   form.Command3_Click();
   form.Command4_Click();
   form.Command5_Click();
+  // The proxy records into panels 0 to 3, answered as a user would: the scan
+  // is on composite depth, the pollen on ages before 1950.
+  form.Command6_Click(0);
+  frmSelect->Command1_Click();
+  form.Command6_Click(1);
+  frmSelect->Option1(1).Value = true;
+  frmSelect->Command1_Click();
+  form.Command6_Click(2);
+  form.Command6_Click(3);
+  form.mnuFlat11__Click(0);
+  // Clicks at the form's right edge widen it panel by panel.
+  for (int click = 0; click < 5 && form.Width < form.Picture1(4).Left + form.Picture1(4).Width;
+       ++click) {
+    form.Form_MouseDown(1, 0, form.Width - 30, 100);
+  }
   shell.Platform().SetDialogs(nullptr);
   return true;
 }
