@@ -65,31 +65,32 @@ struct Point {
 };
 
 // Single precision throughout, in the order of the rows: the last bits of a
-// mean depend on it.
-void Means(const RunningMean& mean, int p, long i, Point& first, Point& second) {
+// mean depend on it. x(k) and y(k) read a row's plotted value and depth.
+template <class ReadX, class ReadY>
+void Means(const RunningMean& mean, long i, ReadX x, ReadY y, Point& first, Point& second) {
   Single x1 = 0;
   Single y1 = 0;
   Single x2 = 0;
   Single y2 = 0;
   if (mean.sharedSum) {
-    Single x = 0;
-    Single y = 0;
+    Single xs = 0;
+    Single ys = 0;
     for (long k = i + mean.secondFrom; k <= i + mean.firstTo; ++k) {
-      x += Plotted(k);
-      y += Depth(p, k);
+      xs += x(k);
+      ys += y(k);
     }
-    x1 = x + Plotted(i + mean.firstFrom);
-    y1 = y + Depth(p, i + mean.firstFrom);
-    x2 = x + Plotted(i + mean.secondTo);
-    y2 = y + Depth(p, i + mean.secondTo);
+    x1 = xs + x(i + mean.firstFrom);
+    y1 = ys + y(i + mean.firstFrom);
+    x2 = xs + x(i + mean.secondTo);
+    y2 = ys + y(i + mean.secondTo);
   } else {
     for (long k = i + mean.firstFrom; k <= i + mean.firstTo; ++k) {
-      x1 += Plotted(k);
-      y1 += Depth(p, k);
+      x1 += x(k);
+      y1 += y(k);
     }
     for (long k = i + mean.secondFrom; k <= i + mean.secondTo; ++k) {
-      x2 += Plotted(k);
-      y2 += Depth(p, k);
+      x2 += x(k);
+      y2 += y(k);
     }
   }
   first = {x1 / mean.divisor, y1 / mean.divisor};
@@ -126,38 +127,8 @@ class WalkRows {
     return noValue_[to + 1] == noValue_[from] && falls_[to] == falls_[from];
   }
 
-  // The same sums as the checked reads, in the same order.
-  void Means(const RunningMean& mean, long i, Point& first, Point& second) const {
-    const Single* x = plotted_.data();
-    const Single* y = depth_.data();
-    Single x1 = 0;
-    Single y1 = 0;
-    Single x2 = 0;
-    Single y2 = 0;
-    if (mean.sharedSum) {
-      Single xs = 0;
-      Single ys = 0;
-      for (long k = i + mean.secondFrom; k <= i + mean.firstTo; ++k) {
-        xs += x[k];
-        ys += y[k];
-      }
-      x1 = xs + x[i + mean.firstFrom];
-      y1 = ys + y[i + mean.firstFrom];
-      x2 = xs + x[i + mean.secondTo];
-      y2 = ys + y[i + mean.secondTo];
-    } else {
-      for (long k = i + mean.firstFrom; k <= i + mean.firstTo; ++k) {
-        x1 += x[k];
-        y1 += y[k];
-      }
-      for (long k = i + mean.secondFrom; k <= i + mean.secondTo; ++k) {
-        x2 += x[k];
-        y2 += y[k];
-      }
-    }
-    first = {x1 / mean.divisor, y1 / mean.divisor};
-    second = {x2 / mean.divisor, y2 / mean.divisor};
-  }
+  Single X(long k) const { return plotted_[static_cast<std::size_t>(k)]; }
+  Single Y(long k) const { return depth_[static_cast<std::size_t>(k)]; }
 
  private:
   long last_ = -1;
@@ -186,11 +157,14 @@ void DrawRunningMean(const RunningMean& mean, int p, long F, long hidden) {
       Point second;
       if (DrawOnlyWhatShows && rows.Holds(from, to)) {
         if (rows.Usable(from, to)) {
-          rows.Means(mean, i, first, second);
+          Means(
+              mean, i, [&](long k) { return rows.X(k); }, [&](long k) { return rows.Y(k); }, first,
+              second);
           panel.Line(first.x, first.y, second.x, second.y, kRed);
         }
       } else if (WindowsUsable(mean, p, i)) {
-        Means(mean, p, i, first, second);
+        Means(
+            mean, i, Plotted, [p](long k) { return Depth(p, k); }, first, second);
         panel.Line(first.x, first.y, second.x, second.y, kRed);
       }
       ++i;
