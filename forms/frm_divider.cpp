@@ -41,6 +41,15 @@ FrmDivider::FrmDivider() : Form("frmDivider", "Level Divider") {
   Option1.Value.SetQuietly(true);
   Option2.Caption.SetQuietly("Fix sampling");
   Option2.Place(3120, kLabelTops[1] + 300, 1335, 255);
+
+  for (int i = 0; i <= 1; ++i) {
+    Combo1(i).Click = [this, i] { Combo1_Click(i); };
+    Combo1(i).GotFocus = [this] { Combo1_GotFocus(); };
+    Text1(i).Change = [this] { Text1_Change(); };
+  }
+  Text2.Change = [this] { Text2_Change(); };
+  Option1.Click = [this] { Option1_Click(); };
+  Option2.Click = [this] { Option2_Click(); };
 }
 
 }  // namespace ostraline

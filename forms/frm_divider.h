@@ -1,8 +1,11 @@
 #pragma once
 // The level divider: sampling positions between two tie levels of a section.
+#include <string>
+
 #include "forms/canvas.h"
 #include "forms/controls.h"
 #include "forms/form.h"
+#include "runtime/checked_int.h"
 
 namespace ostraline {
 
@@ -26,6 +29,27 @@ class FrmDivider : public Form {
   // The section caption: bore hole letter, "-", section name.
   Label Label5{*this, "Label5"};
   Label Label6{*this, "Label6"};
+
+  // The two levels and the target, as Divide takes them from the main form.
+  Single LevelAbovePSP = 0;
+  Single TargetLevelPSP = 0;
+  Single LevelBelowPSP = 0;
+  std::string LevelAboveLabel;
+  std::string LevelBelowLabel;
+  // The combos' texts as they stood when the pointer last came.
+  std::string KeptCombo1Text[2];
+
+  void Form_Activate() override;
+  void Form_Unload(int& cancel) override;
+  void Form_Terminate();
+  void Form_MouseMove(int button, int shift, float x, float y) override;
+  void Divide();
+  void Combo1_Click(int index);
+  void Combo1_GotFocus();
+  void Text1_Change();
+  void Text2_Change();
+  void Option1_Click();
+  void Option2_Click();
 };
 
 inline FormRef<FrmDivider> frmDivider{"frmDivider"};

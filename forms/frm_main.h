@@ -181,6 +181,10 @@ class FrmMain : public Form {
   // Batch conversion of a data file.
   void Command2_Click();
 
+  // The level divider.
+  void mnuDivider_Click();
+  void mnuBH_Click(int index);
+
   // Proxy panels.
   void Command6_Click(int p);
   void Combo3_Click(int p);

@@ -9,6 +9,13 @@ void FrmMain::WireHandlers() {
   Command3.Click = [this] { Command3_Click(); };
   Command4.Click = [this] { Command4_Click(); };
   Command5.Click = [this] { Command5_Click(); };
+  // The level divider.
+  mnuDivider.Click = [this] { mnuDivider_Click(); };
+  mnuBH.ForEach([this](Menu& entry) {
+    const int hole = entry.Index();
+    entry.Click = [this, hole] { mnuBH_Click(hole); };
+  });
+
   // The proxy panels.
   Command6.ForEach([this](CommandButton& button) {
     const int p = button.Index();
