@@ -6,6 +6,7 @@
 #include "events/batch_state.h"
 #include "events/event_state.h"
 #include "forms/form.h"
+#include "proxies/core_photos.h"
 #include "proxies/proxy_records.h"
 
 namespace ostraline {
@@ -19,6 +20,7 @@ void ResetProgramState() {
   batchState = BatchState{};
   masterProxies = ProxyRecords{};
   proxyState = ProxyState{};
+  photoState = PhotoState{};
 }
 
 }  // namespace ostraline

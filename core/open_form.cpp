@@ -65,9 +65,7 @@ void OpenFormForWork(FrmMain& form) {
   form.mnuCopyDepth.Enabled = true;
 
   // The correlation assist's ruler, from the columns' scale as it stands now.
-  FrmKX11& ruler = *frmKX11;
-  ruler.Picture1.Height = form.BoreHole(0).ScaleHeight * 100 / form.BoreHole(0).Height;
-  ruler.Label2.Caption = Str(ruler.Picture1.Height.Get());
+  frmKX11->FollowColumnScale();
 
   form.ProgressBar1.Value = 0;
   form.ProgressBar1.Visible = false;

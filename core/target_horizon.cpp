@@ -11,23 +11,12 @@
 #include "events/event_state.h"
 #include "forms/frm_divider.h"
 #include "forms/frm_main.h"
-#include "forms/frm_test.h"
 #include "forms/platform.h"
 #include "runtime/number_text.h"
+#include "service/staff_console.h"
 
 namespace ostraline {
 namespace {
-
-void TraceText2Change(FrmMain& form) {
-  FrmTest& console = *frmTest;
-  console.Print("frmMain.Text2_Change");
-  console.Print("ActionCount: " + Str(ActionCount));
-  console.Print("DrivenBy: " + Str(DrivenBy));
-  console.Print("DriveIndex: " + Str(DriveIndex));
-  console.Print("Y: ");
-  console.Print("text2.text: " + form.Text2.Text.Get());
-  console.Print("----------");
-}
 
 // Which cores reach the target: a negative PSP lies above the section.
 void EnableBoreHoleMenus(FrmMain& form, double target) {

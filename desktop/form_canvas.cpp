@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <algorithm>
 #include <string>
+#include <vector>
 
 #include "desktop/conversions.h"
 #include "desktop/event_forwarding.h"
@@ -37,9 +38,11 @@ void PaintLineControl(QPainter& painter, const LineControl& line, QPoint offset)
 }
 
 void PaintShape(QPainter& painter, const Shape& shape, QPoint offset) {
-  QRectF box = PixelRect(shape.Left.Get(), shape.Top.Get(), shape.Width.Get(), shape.Height.Get())
-                   .translated(offset)
-                   .adjusted(0.5, 0.5, -0.5, -0.5);
+  // The pen runs along the middle of the outer pixels.
+  QRectF box =
+      QRectF(PixelRect(shape.Left.Get(), shape.Top.Get(), shape.Width.Get(), shape.Height.Get())
+                 .translated(offset))
+          .adjusted(0.5, 0.5, -0.5, -0.5);
   const int kind = shape.ShapeKind.Get();
   if (kind == 1 || kind == 3 || kind == 5) {
     // Squares and circles stand in the middle of their box.
@@ -67,6 +70,36 @@ void PaintImageControl(QPainter& painter, const ImageControl& image, QPoint offs
       PixelRect(image.Left.Get(), image.Top.Get(), image.Width.Get(), image.Height.Get())
           .translated(offset),
       pixels);
+}
+
+// The image under the pointer that takes mouse events, the topmost first.
+ImageControl* ImageAt(const Form& form, QPointF at) {
+  const std::vector<Control*>& controls = form.Controls();
+  for (auto it = controls.rbegin(); it != controls.rend(); ++it) {
+    Control* control = *it;
+    if (control->Kind() != ControlKind::Image || !control->Visible.Get() ||
+        !control->Enabled.Get()) {
+      continue;
+    }
+    if (!control->MouseDown && !control->MouseMove && !control->MouseUp && !control->DblClick) {
+      continue;
+    }
+    const QRect box = PixelRect(control->Left.Get(), control->Top.Get(), control->Width.Get(),
+                                control->Height.Get())
+                          .translated(ContainerOffset(*control));
+    if (box.contains(at.toPoint())) return static_cast<ImageControl*>(control);
+  }
+  return nullptr;
+}
+
+// An image's mouse events measure from its own corner, in twips.
+void ForwardToImage(const MouseHandler& handler, const Control& image, int button, int shift,
+                    QPointF at) {
+  if (!handler) return;
+  const QPointF corner = QPointF(ContainerOffset(image));
+  const float x = ToTwips(at.x() - corner.x()) - image.Left.Get();
+  const float y = ToTwips(at.y() - corner.y()) - image.Top.Get();
+  ForwardEvent([&] { handler(button, shift, x, y); });
 }
 
 }  // namespace
@@ -122,7 +155,28 @@ void FormCanvas::mousePressEvent(QMouseEvent* event) {
   const int button = ButtonsOf(event->button());
   const int shift = ShiftStateOf(event->modifiers());
   const QPointF at = event->position();
+  // The image pressed keeps the mouse until the button is let go, even when
+  // its handler hides it, as a dragged picture's does.
+  if (ImageControl* image = ImageAt(*form_, at)) {
+    captured_ = image;
+    ForwardToImage(image->MouseDown, *image, button, shift, at);
+    return;
+  }
   ForwardEvent([&] { form_->Form_MouseDown(button, shift, ToTwips(at.x()), ToTwips(at.y())); });
+}
+
+// The double click of an image is its own event; elsewhere it is a press.
+void FormCanvas::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (form_ == nullptr) return;
+  if (ImageControl* image = ImageAt(*form_, event->position())) {
+    if (image->DblClick) {
+      // The release that follows belongs to the image too.
+      captured_ = image;
+      ForwardEvent([image] { image->DblClick(); });
+      return;
+    }
+  }
+  mousePressEvent(event);
 }
 
 void FormCanvas::mouseMoveEvent(QMouseEvent* event) {
@@ -130,14 +184,24 @@ void FormCanvas::mouseMoveEvent(QMouseEvent* event) {
   const int buttons = ButtonsOf(event->buttons());
   const int shift = ShiftStateOf(event->modifiers());
   const QPointF at = event->position();
+  // A pop-up menu swallows the release that ends a capture.
+  if (captured_ != nullptr && buttons == 0) captured_ = nullptr;
+  if (Control* image = captured_ != nullptr ? captured_ : ImageAt(*form_, at)) {
+    ForwardToImage(image->MouseMove, *image, buttons, shift, at);
+    return;
+  }
   ForwardEvent([&] { form_->Form_MouseMove(buttons, shift, ToTwips(at.x()), ToTwips(at.y())); });
 }
 
 void FormCanvas::mouseReleaseEvent(QMouseEvent* event) {
-  if (form_ == nullptr || event->button() != Qt::LeftButton ||
-      !rect().contains(event->position().toPoint())) {
+  if (form_ == nullptr) return;
+  if (Control* image = captured_) {
+    captured_ = nullptr;
+    ForwardToImage(image->MouseUp, *image, ButtonsOf(event->button()),
+                   ShiftStateOf(event->modifiers()), event->position());
     return;
   }
+  if (event->button() != Qt::LeftButton || !rect().contains(event->position().toPoint())) return;
   ForwardEvent([this] { form_->Form_Click(); });
 }
 

@@ -79,6 +79,17 @@ void FrmMain::mnuSize_Click(int index) {
 }
 
 // The strip goes to the clipboard on white, then back to its own colour.
+// The committed picture of a column, without the pointer's overlay.
+void FrmMain::mnuCompCopy_Click() {
+  CurrentPlatform().ClipboardClear();
+  CurrentPlatform().ClipboardSetPicture(BoreHole(0).GetPicture());
+}
+
+void FrmMain::mnuCopyCore_Click() {
+  CurrentPlatform().ClipboardClear();
+  CurrentPlatform().ClipboardSetPicture(BoreHole(CopyHole).GetPicture());
+}
+
 void FrmMain::mnuCopyDepth_Click() {
   PictureBox& strip = BoreHole(5);
   const long ownColour = strip.BackColor;

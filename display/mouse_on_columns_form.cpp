@@ -109,4 +109,8 @@ void FrmMain::Text6_MouseMove(int /*index*/) {
   ClearTargetLine();
 }
 
+void FrmMain::Slider1_MouseMove() {
+  Screen.SetMousePointer(1);
+}
+
 }  // namespace ostraline

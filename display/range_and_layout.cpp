@@ -64,16 +64,6 @@ void RedrawColumns() {
   if (LastRow > 0) DrawLamina();
 }
 
-// The correlation assist's ruler: 100 length units at the scale of the columns.
-void ScaleReferenceRuler(FrmMain& form) {
-  FrmKX11& ruler = *frmKX11;
-  const float height = form.BoreHole(0).Height * 100 / form.BoreHole(0).ScaleHeight;
-  ruler.Picture1.Height = height;
-  ruler.Label2.Caption = Str(height);
-  ruler.Label3.Caption =
-      Str(Round(ruler.Picture1.Height * 100.0 / Val(ruler.Label2.Caption.Get()), 1)) + " %";
-}
-
 }  // namespace
 
 void SetViewSpan(Integer Source, Integer Span) {
@@ -99,7 +89,7 @@ void SetViewSpan(Integer Source, Integer Span) {
   PanelsFollowColumns(form);
   RedrawColumns();
   ClearTargetLine();
-  ScaleReferenceRuler(form);
+  frmKX11->FollowColumnScale();
 }
 
 void FrmMain::mnuCM_Click(int index) {

@@ -1,17 +1,9 @@
 #pragma once
-// The second of the four core photo viewers.
-#include "forms/form.h"
+// The second of the four core photo viewers: the one photo form with record 2.
+#include "forms/frm_photo.h"
 
 namespace ostraline {
 
-class Frm2Photo : public Form {
- public:
-  Frm2Photo() : Form("frm2Photo", "Core photo Duo") {
-    Width.SetQuietly(5400);
-    Height.SetQuietly(7200);
-  }
-};
-
-inline FormRef<Frm2Photo> frm2Photo{"frm2Photo"};
+inline PhotoFormRef frm2Photo{"frm2Photo", 2, "Core photo Duo"};
 
 }  // namespace ostraline

@@ -1,17 +1,9 @@
 #pragma once
-// The third of the four core photo viewers.
-#include "forms/form.h"
+// The third of the four core photo viewers: the one photo form with record 3.
+#include "forms/frm_photo.h"
 
 namespace ostraline {
 
-class Frm3Photo : public Form {
- public:
-  Frm3Photo() : Form("frm3Photo", "Core photo") {
-    Width.SetQuietly(5400);
-    Height.SetQuietly(7200);
-  }
-};
-
-inline FormRef<Frm3Photo> frm3Photo{"frm3Photo"};
+inline PhotoFormRef frm3Photo{"frm3Photo", 3, "Core photo"};
 
 }  // namespace ostraline

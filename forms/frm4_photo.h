@@ -1,17 +1,9 @@
 #pragma once
-// The fourth of the four core photo viewers.
-#include "forms/form.h"
+// The fourth of the four core photo viewers: the one photo form with record 4.
+#include "forms/frm_photo.h"
 
 namespace ostraline {
 
-class Frm4Photo : public Form {
- public:
-  Frm4Photo() : Form("frm4Photo", "Core photo") {
-    Width.SetQuietly(5400);
-    Height.SetQuietly(7200);
-  }
-};
-
-inline FormRef<Frm4Photo> frm4Photo{"frm4Photo"};
+inline PhotoFormRef frm4Photo{"frm4Photo", 4, "Core photo"};
 
 }  // namespace ostraline

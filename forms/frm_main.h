@@ -181,6 +181,14 @@ class FrmMain : public Form {
   // Batch conversion of a data file.
   void Command2_Click();
 
+  // Photos, the correlation assist, version information, the staff console.
+  void Command7_Click();
+  void mnuPhoto_Click();
+  void mnuKX11_Click();
+  void mnuVersion_Click();
+  void Image1_DblClick();
+  void Slider1_MouseMove();
+
   // The level divider.
   void mnuDivider_Click();
   void mnuBH_Click(int index);
@@ -214,6 +222,8 @@ class FrmMain : public Form {
   void mnuAge_Click();
   void mnuSize_Click(int index);
   void mnuCopyDepth_Click();
+  void mnuCompCopy_Click();
+  void mnuCopyCore_Click();
 
   // The pointer on the columns, the panels and the bare form.
   void BoreHole_MouseMove(int index, int button, int shift, float x, float y);

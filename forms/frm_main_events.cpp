@@ -9,6 +9,14 @@ void FrmMain::WireHandlers() {
   Command3.Click = [this] { Command3_Click(); };
   Command4.Click = [this] { Command4_Click(); };
   Command5.Click = [this] { Command5_Click(); };
+  // Photos, the correlation assist, version information, the staff console.
+  Command7.Click = [this] { Command7_Click(); };
+  mnuPhoto.Click = [this] { mnuPhoto_Click(); };
+  mnuKX11.Click = [this] { mnuKX11_Click(); };
+  mnuVersion.Click = [this] { mnuVersion_Click(); };
+  Image1.DblClick = [this] { Image1_DblClick(); };
+  Slider1.MouseMove = [this](int, int, float, float) { Slider1_MouseMove(); };
+
   // The level divider.
   mnuDivider.Click = [this] { mnuDivider_Click(); };
   mnuBH.ForEach([this](Menu& entry) {
@@ -98,6 +106,8 @@ void FrmMain::WireHandlers() {
     entry.Click = [this, index] { mnuSize_Click(index); };
   });
   mnuCopyDepth.Click = [this] { mnuCopyDepth_Click(); };
+  mnuCompCopy.Click = [this] { mnuCompCopy_Click(); };
+  mnuCopyCore.Click = [this] { mnuCopyCore_Click(); };
 
   // The pointer on the columns and panels; leaving them over a label clears the overlay.
   BoreHole.ForEach([this](PictureBox& column) {

@@ -15,6 +15,10 @@ FrmPass::FrmPass() : Form("frmPass", "Staff only") {
   Command1.Enabled.SetQuietly(false);
   Command2.Caption.SetQuietly("Cancel");
   Command2.Place(3840, 1140, 1335, 375);
+
+  Text1.Change = [this] { Text1_Change(); };
+  Command1.Click = [this] { Command1_Click(); };
+  Command2.Click = [this] { Command2_Click(); };
 }
 
 }  // namespace ostraline

@@ -13,6 +13,10 @@ class FrmPass : public Form {
   TextBox Text1{*this, "Text1"};
   CommandButton Command1{*this, "Command1"};
   CommandButton Command2{*this, "Command2"};
+
+  void Text1_Change();
+  void Command1_Click();
+  void Command2_Click();
 };
 
 inline FormRef<FrmPass> frmPass{"frmPass"};

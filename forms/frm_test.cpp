@@ -34,6 +34,10 @@ FrmTest::FrmTest() : Form("frmTest", "Debugging tool (staff only)") {
   for (int i = 0; i < 3; ++i) {
     lower[i]->Place(kLabelLeft + 1440 * static_cast<float>(i), 3360, 1335, 345);
   }
+
+  Command1.Click = [this] { Command1_Click(); };
+  Command2.Click = [this] { Command2_Click(); };
+  Command3.Click = [this] { Command3_Click(); };
 }
 
 }  // namespace ostraline

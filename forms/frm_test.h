@@ -27,6 +27,11 @@ class FrmTest : public Form {
   CommandButton Command3{*this, "Command3"};
   CommandButton Command4{*this, "Command4"};
   CommandButton Command5{*this, "Command5"};
+
+  // Command4 and Command5 have no handler.
+  void Command1_Click();
+  void Command2_Click();
+  void Command3_Click();
 };
 
 inline FormRef<FrmTest> frmTest{"frmTest"};

@@ -18,6 +18,10 @@ class FrmVersion : public Form {
 
   void Form_Load() override;
   void Form_Resize() override;
+  void Form_Unload(int& cancel) override;
+  void Form_MouseMove(int button, int shift, float x, float y) override;
+  void Label1_MouseMove(int index);
+  void Label2_MouseMove(int index);
 };
 
 inline FormRef<FrmVersion> frmVersion{"frmVersion"};

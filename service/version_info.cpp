@@ -7,6 +7,7 @@
 #include "core/project_state.h"
 #include "forms/frm_main.h"
 #include "forms/frm_version.h"
+#include "forms/platform.h"
 
 namespace ostraline {
 namespace {
@@ -15,6 +16,10 @@ namespace {
 constexpr std::string_view kProgramName = "Ostraline ";
 
 }  // namespace
+
+void FrmMain::mnuVersion_Click() {
+  frmVersion->Show();
+}
 
 void FrmVersion::Form_Load() {
   const std::pair<int, const std::string*> versions[] = {
@@ -31,6 +36,32 @@ void FrmVersion::Form_Load() {
 // The form keeps its height.
 void FrmVersion::Form_Resize() {
   Height = 2100;
+}
+
+// The focus goes back to the first import button that can take it, in the
+// order the buttons stand on the main form.
+void FrmVersion::Form_Unload(int& /*cancel*/) {
+  if (!frmMain.IsLoaded()) return;
+  FrmMain& main = *frmMain;
+  for (CommandButton* import :
+       {&main.Command1, &main.Command3, &main.Command4, &main.Command5, &main.Command2}) {
+    if (import->Enabled && import->Visible) {
+      import->SetFocus();
+      return;
+    }
+  }
+}
+
+void FrmVersion::Form_MouseMove(int /*button*/, int /*shift*/, float /*x*/, float /*y*/) {
+  Screen.SetMousePointer(0);
+}
+
+void FrmVersion::Label1_MouseMove(int /*index*/) {
+  Screen.SetMousePointer(0);
+}
+
+void FrmVersion::Label2_MouseMove(int /*index*/) {
+  Screen.SetMousePointer(0);
 }
 
 }  // namespace ostraline

@@ -5,59 +5,23 @@
 #include <fstream>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/project_state.h"
 #include "forms/frm_conversion.h"
 #include "forms/frm_main.h"
-#include "support/fresh_program.h"
+#include "support/age_files.h"
+#include "support/model_files.h"
 
 namespace ostraline {
 namespace {
 
 namespace fs = std::filesystem;
 
-// Bore hole A in two sections: ties PSP 10 at 110 cm and 50 at 160 cm, then
-// 20 at 230 and 60 at 270; the other holes have no cells. Every cell carries
-// the model's prefix character.
-std::string ModelFile() {
-  const std::vector<std::vector<std::string>> rows = {
-      {"Splice", "Bore hole A (A)", "PSP", "Drilling depth", "Bore hole B (B)", "PSP",
-       "Drilling depth", "Bore hole C (C)", "PSP", "Drilling depth", "Bore hole D (D)", "PSP",
-       "Drilling depth", "Composite depth"},
-      {"A", "A-01-top", "0", "100", "", ""},
-      {"A", "L1", "10", "110", "", "110"},
-      {"A", "L2", "50", "150", "", "160"},
-      {"A", "A-01-bottom", "80", "180", "", ""},
-      {"Gap", "A-02-top", "0", "185", "", ""},
-      {"A", "L3", "20", "205", "", "230"},
-      {"A", "L4", "60", "245", "", "270"},
-      {"A", "A-02-bottom", "90", "275", "", ""}};
-  std::string text;
-  for (const auto& row : rows) {
-    std::vector<std::string> cells = row;
-    if (cells.size() == 6) {
-      // Splice, hole A's three cells, the starred holes B to D, the composite depth.
-      cells = {row[0], row[1], row[2], row[3], "*", "*", "*", "*", "*", "*", "*", "*", "*", row[5]};
-    }
-    for (std::size_t i = 0; i < cells.size(); ++i) text += (i == 0 ? "'" : ",'") + cells[i];
-    text += "\r\n";
-  }
-  return text;
-}
-
-// One layer from 150 to 160 cm, made of two rows that fuse.
-const char* const kEvents =
-    "Hole,Section,Top,Bottom,Description\r\nA,01,42,48,Tephra\r\nA,01,46,50,Void\r\n";
-// Control points at EFD 140, 190 and 240: 20 years to the cm.
-const char* const kAges =
-    "Label,Hole,Section,PSP,Composite depth (05 Mar. 2011),Plus error 95.4,Age,Minus error "
-    "68.2,Class,Unit,Remark\r\n"
-    "P1,A,01,34,0,10,1000,20,C1,cal BP,-\r\n"
-    "P2,---,---,---,200,20,2000,30,C1,cal BP,-\r\n"
-    "P3,A,02,40,0,40,3000,40,C1,varve yr,-\r\n";
 // A record that spans no pair of control points: the ages stay linear in EFD.
-const char* const kVarves = "Composite depth,Varves\r\n120,10\r\n125,20\r\n130,30\r\n";
+const std::vector<std::pair<std::string, std::string>> kVarves = {
+    {"120", "10"}, {"125", "20"}, {"130", "30"}};
 const char* const kPositions =
     "Sample,Hole,Section,PSP\r\nS1,A,01,30\r\nS2,Bore hole A,01,46\r\nS3,A,02,30\r\n";
 
@@ -78,10 +42,10 @@ class ConvertCommand : public FreshProgram {
     folder = fs::temp_directory_path() / "ostraline-cli-tests" / info->name();
     fs::remove_all(folder);
     fs::create_directories(folder);
-    Write("model_20110305.csv", ModelFile());
-    Write("events_20110401.csv", kEvents);
-    Write("ages_20120101.csv", kAges);
-    Write("varves_20130201.csv", kVarves);
+    Write("model_20110305.csv", ModelText(TwoSectionModel()));
+    Write("events_20110401.csv", kFusedLayer);
+    Write("ages_20120101.csv", AgeModelText(kThreeControlPoints));
+    Write("varves_20130201.csv", VarveText(kVarves));
     Write("samples.csv", kPositions);
   }
 
@@ -173,9 +137,7 @@ TEST_F(ConvertCommand, FailuresExitWithOneAndKeepTheOutput) {
   EXPECT_NE(run.errors.find("Please import list of events."), std::string::npos) << run.errors;
 
   // An age-depth model made for another model version: declined unless asked.
-  std::string otherAges = kAges;
-  otherAges.replace(otherAges.find("05 Mar."), 7, "06 Mar.");
-  Write("other_ages.csv", otherAges);
+  Write("other_ages.csv", AgeModelText(kThreeControlPoints, {"Composite depth (06 Mar. 2011)"}));
   const std::string withOtherAges =
       "--model model_20110305.csv --events events_20110401.csv --ages other_ages.csv ";
   run = Convert(withOtherAges + "samples.csv out.csv");

@@ -12,43 +12,21 @@ namespace {
 
 class CorrelationModelImport : public FreshProgram {
  protected:
-  // Imports the rows through the dialog, as a user picking the file.
-  void Import(const std::vector<ModelRow>& rows, bool longLayout = false,
-              const std::string& name = "model_20110305.csv") {
-    ImportText(ModelText(rows, longLayout), name);
-  }
-  void ImportText(const std::string& text, const std::string& name = "model_20110305.csv") {
-    platform.QueueFile(WriteTempFile(name, text));
+  void ImportText(const std::string& text) {
+    platform.QueueFile(WriteTempFile("model_20110305.csv", text));
     frmMain->Command1_Click();
-  }
-  bool FailedWithFormatError() const {
-    return platform.messages.size() == 1 && platform.messages[0].text == "File format error." &&
-           platform.messages[0].title == "Error" &&
-           platform.messages[0].icon == MsgIcon::Exclamation;
-  }
-
-  std::vector<ModelRow> TwoSections() {
-    return {DefaultHeader(),
-            RowA("A-01-top", "0", "100", "", "A"),
-            RowA("L1", "10", "110", "110"),
-            RowA("L2", "50", "150", "160"),
-            RowA("A-01-bottom", "80", "180", ""),
-            RowA("A-02-top", "0", "185", "", "Gap"),
-            RowA("L3", "20", "205", "230"),
-            RowA("L4", "60", "245", "270"),
-            RowA("A-02-bottom", "90", "275", "")};
   }
 };
 
 TEST_F(CorrelationModelImport, ShortAndLongLayoutsGiveTheSameCells) {
-  Import(TwoSections(), false);
+  ImportModel(TwoSectionModel());
   ASSERT_TRUE(platform.messages.empty());
   const std::string shortCells = ModelCell(0, 1, 1, 3) + "|" + TieCell(0, 5) + "|" + TieCell(1, 7);
   EXPECT_EQ(LastRow, 8);
   EXPECT_EQ(shortCells, "50|Gap|270");
 
   ResetProgram();
-  Import(TwoSections(), true);
+  ImportText(ModelText(TwoSectionModel(), true));
   ASSERT_TRUE(platform.messages.empty());
   EXPECT_EQ(LastRow, 8);
   EXPECT_EQ(ModelCell(0, 1, 1, 3) + "|" + TieCell(0, 5) + "|" + TieCell(1, 7), shortCells);
@@ -56,11 +34,11 @@ TEST_F(CorrelationModelImport, ShortAndLongLayoutsGiveTheSameCells) {
 }
 
 TEST_F(CorrelationModelImport, CellsLoseTheirPrefixStarsAndBlanks) {
-  auto rows = TwoSections();
+  auto rows = TwoSectionModel();
   rows[2] = RowA("L1", " 10 ", "110*", "110");  // a good number with a star is no value
   rows[3].holes[1] = "*50";
   rows[4].cd = "---";
-  Import(rows);
+  ImportModel(rows);
   ASSERT_TRUE(platform.messages.empty());
   EXPECT_EQ(ModelCell(0, 1, 1, 2), "10");
   EXPECT_EQ(ModelCell(0, 1, 1, 3), "9999");
@@ -71,11 +49,11 @@ TEST_F(CorrelationModelImport, CellsLoseTheirPrefixStarsAndBlanks) {
 }
 
 TEST_F(CorrelationModelImport, HeadersNameTheBoreHoles) {
-  auto rows = TwoSections();
+  auto rows = TwoSectionModel();
   rows[0].holes[0] = "Core 6 (B)";
   rows[0].holes[3] = "Lamina name (Main core)";
   rows[0].holes[6] = "Bore Hole (C)";
-  Import(rows);
+  ImportModel(rows);
   ASSERT_TRUE(platform.messages.empty());
   EXPECT_EQ(HoleName(1), "B");
   EXPECT_EQ(HoleTitle(1), "Core 6");
@@ -88,14 +66,15 @@ TEST_F(CorrelationModelImport, HeadersNameTheBoreHoles) {
   EXPECT_EQ(frmMain->Caption.Get(), "Ostraline 7.7.4   [model_20110305]");
   EXPECT_EQ(ModelVersion, "05 Mar. 2011");
   EXPECT_FALSE(frmMain->Command1.Enabled);
-  // The correlation assist's ruler takes the columns' scale: 500 units over 8775 twips.
-  EXPECT_FLOAT_EQ(frmKX11->Picture1.Height, 500.0f * 100 / 8775);
+  // The correlation assist's ruler takes the columns' scale: 100 units of
+  // the 500 over 8775 twips, at true scale.
+  EXPECT_FLOAT_EQ(frmKX11->Picture1.Height, 8775.0f * 100 / 500);
 }
 
 TEST_F(CorrelationModelImport, SectionsAreCountedByTheirLabels) {
-  auto rows = TwoSections();
+  auto rows = TwoSectionModel();
   rows.pop_back();  // the last section has no bottom label
-  Import(rows);
+  ImportModel(rows);
   // Every core now ends at 0, above the first target at 240.
   ASSERT_EQ(platform.messages.size(), 1u);
   EXPECT_EQ(platform.messages[0].text, "Requested horizon is below core bottom.");
@@ -108,16 +87,16 @@ TEST_F(CorrelationModelImport, SectionsAreCountedByTheirLabels) {
   EXPECT_EQ(SectionCount(2), 0);
   // "TOP" in capitals opens nothing.
   ResetProgram();
-  rows = TwoSections();
+  rows = TwoSectionModel();
   rows[5].holes[0] = "A-02-TOP";
-  Import(rows);
+  ImportModel(rows);
   EXPECT_EQ(SectionCount(1), 1);
 }
 
 TEST_F(CorrelationModelImport, BadFilesEndInTheMessageAndLeaveTheButton) {
-  auto rows = TwoSections();
+  auto rows = TwoSectionModel();
   rows[0].holes[3] = "Bore hole B";  // no "(" in a hole's header
-  Import(rows);
+  ImportModel(rows);
   EXPECT_TRUE(FailedWithFormatError());
   EXPECT_TRUE(frmMain->Command1.Enabled);
   EXPECT_FALSE(frmMain->ProgressBar1.Visible);
@@ -132,23 +111,24 @@ TEST_F(CorrelationModelImport, BadFilesEndInTheMessageAndLeaveTheButton) {
   // A PSP that is no number fails the depth sweep.
   platform.messages.clear();
   ResetProgram();
-  rows = TwoSections();
+  rows = TwoSectionModel();
   rows[2].holes[1] = "---";
-  Import(rows);
+  ImportModel(rows);
   EXPECT_TRUE(FailedWithFormatError());
 
   // A blank line after the last row is one more row, and its reading fails.
   platform.messages.clear();
   ResetProgram();
-  ImportText(ModelText(TwoSections()) + "\r\n");
+  ImportText(ModelText(TwoSectionModel()) + "\r\n");
   EXPECT_TRUE(FailedWithFormatError());
-}
 
-TEST_F(CorrelationModelImport, FirstSpliceCellOfThreeCharactersMeansTheLongLayout) {
-  auto rows = TwoSections();
-  rows[1].splice = "AB";  // with its prefix three characters
-  Import(rows);
-  // Eighteen fields a row from a file of fourteen: the rows run out mid-row.
+  // A first splice cell of three characters with its prefix means the long
+  // layout: eighteen fields a row from a file of fourteen run out mid-row.
+  platform.messages.clear();
+  ResetProgram();
+  rows = TwoSectionModel();
+  rows[1].splice = "AB";
+  ImportModel(rows);
   EXPECT_TRUE(FailedWithFormatError());
 }
 
@@ -163,14 +143,14 @@ TEST_F(CorrelationModelImport, AtMostFiveThousandRows) {
     rows.push_back(RowA(label, std::to_string(inSection * 2), std::to_string(r * 2),
                         inSection % 5 == 0 ? std::to_string(r * 2) : ""));
   }
-  Import(rows);
+  ImportModel(rows);
   ASSERT_TRUE(platform.messages.empty());
   EXPECT_EQ(LastRow, 5000);
   EXPECT_EQ(SectionCount(1), 100);
 
   ResetProgram();
   rows.push_back(RowA("L5001", "1", "1", ""));
-  Import(rows);
+  ImportModel(rows);
   EXPECT_TRUE(FailedWithFormatError());
 }
 

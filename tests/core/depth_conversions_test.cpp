@@ -39,8 +39,7 @@ class DepthConversions : public FreshProgram {
  protected:
   void SetUp() override {
     FreshProgram::SetUp();
-    platform.QueueFile(WriteTempFile("model.csv", ModelText(ExampleModel())));
-    frmMain->Command1_Click();
+    ImportModel(ExampleModel());
     ASSERT_TRUE(platform.messages.empty());
     frmMain->Option2(1).Value = true;
   }
@@ -55,7 +54,7 @@ class DepthConversions : public FreshProgram {
   }
 };
 
-TEST_F(DepthConversions, TwoTiesGiveTheSameDepthInsideAndDifferBeyond) {
+TEST_F(DepthConversions, TwoTiesAgreeInsideAndDifferBeyondOneTieShiftsEqualPspsGiveNoValue) {
   Method(0);
   EXPECT_DOUBLE_EQ(Composite(1, 30), 135);
   EXPECT_DOUBLE_EQ(Composite(1, 60), 172.5);
@@ -67,9 +66,8 @@ TEST_F(DepthConversions, TwoTiesGiveTheSameDepthInsideAndDifferBeyond) {
   // Neither method chosen: no answer at all.
   frmMain->Option4(1).Value = false;
   EXPECT_TRUE(CompositeFromTrinity(1, 1, 30).IsEmpty());
-}
 
-TEST_F(DepthConversions, OneTieShiftsOneToOneAndEqualPspsGiveNoValue) {
+  // One tie shifts one to one; equal PSPs give no value.
   for (int method : {0, 1}) {
     Method(method);
     EXPECT_DOUBLE_EQ(Composite(2, 15), 215);
@@ -99,7 +97,7 @@ TEST_F(DepthConversions, ModelDepthsTakeTheTieOverTheComputedValue) {
   EXPECT_EQ(frmMain->Combo1.List(), (std::vector<std::string>{"A", "C", "D"}));
 }
 
-TEST_F(DepthConversions, TargetPspFromTheBracketingTies) {
+TEST_F(DepthConversions, TargetPspFromTheBracketingTiesAndTheEstimatedBottom) {
   Method(0);
   LookUp(1, 135);
   EXPECT_FLOAT_EQ(TargetPSP, 30);
@@ -115,17 +113,15 @@ TEST_F(DepthConversions, TargetPspFromTheBracketingTies) {
   Method(1);
   LookUp(1, 95);
   EXPECT_FLOAT_EQ(TargetPSP, -5);
-}
 
-TEST_F(DepthConversions, EstimatedBottomIsAStrictLimit) {
   // Section 1 ends at 160 + (80 - 50) = 190 by its last tie.
+  Method(0);
   LookUp(1, 189.9f);
   EXPECT_EQ(TargetTopRow, 1);
   LookUp(1, 190);
   EXPECT_EQ(TargetTopRow, 5);
-}
 
-TEST_F(DepthConversions, DividerListsFollowTheSectionFound) {
+  // The divider's lists follow the section found, unless the divider drives.
   LookUp(1, 135);
   EXPECT_EQ(SectionTieList(1, 0), Variant("A-01-top"));
   EXPECT_EQ(SectionTieList(3, 1), Variant("50"));
@@ -135,9 +131,8 @@ TEST_F(DepthConversions, DividerListsFollowTheSectionFound) {
   DrivenBy = 8;  // the divider drives: its lists stay
   LookUp(1, 205);
   EXPECT_EQ(SectionTieList(1, 0), Variant("A-01-top"));
-}
 
-TEST_F(DepthConversions, DrillingScaleBelowTheLastTieKeepsTheOldPsp) {
+  // On the drilling scale, below the last tie the old PSP stays.
   frmMain->Option2(0).Value = true;
   LookUp(1, 120);
   EXPECT_FLOAT_EQ(TargetPSP, 20);  // drilling depth less that of the section's top

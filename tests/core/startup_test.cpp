@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "core/project_state.h"
@@ -11,25 +10,10 @@
 #include "forms/frm_divider.h"
 #include "forms/frm_main.h"
 #include "support/fresh_program.h"
+#include "support/screen_recorder.h"
 
 namespace ostraline {
 namespace {
-
-// Notes the forms in the order the toolkit takes them down.
-class UnloadRecorder : public ScreenObserver {
- public:
-  UnloadRecorder() { SetScreenObserver(this); }
-  ~UnloadRecorder() override { SetScreenObserver(nullptr); }
-  void FormLoaded(Form&) override {}
-  void FormUnloaded(Form& form) override { unloaded.push_back(form.Name()); }
-  void FormPropertyChanged(Form&, std::string_view) override {}
-  void ControlPropertyChanged(Control&, std::string_view) override {}
-  void SurfaceChanged(Control&, bool) override {}
-  void FocusChanged(Control*) override {}
-  void PopupMenu(Form&, Menu&) override {}
-
-  std::vector<std::string> unloaded;
-};
 
 const std::vector<std::string> kCloseOrder = {
     "frm2Conversion", "frm2Divider", "frm2Export", "frm2Main",  "frm2Photo",
@@ -37,28 +21,7 @@ const std::vector<std::string> kCloseOrder = {
     "frmDivider",     "frmExport",   "frmMain",    "frmPass",   "frmPhoto",
     "frmSelect",      "frmKX11",     "frmTest",    "frmVersion"};
 
-class StartUp : public FreshProgram {
- protected:
-  // With every form loaded (the last of the list first), closing takes them
-  // down in the list's order; the main form's own unload ends last, after it
-  // has taken down all the others.
-  void ExpectEveryFormClosedInOrder(void (*close)()) {
-    for (auto name = kCloseOrder.rbegin(); name != kCloseOrder.rend(); ++name) {
-      ASSERT_NE(FormSlot::Find(*name), nullptr) << *name;
-      FormSlot::Find(*name)->GetForm();
-    }
-    UnloadRecorder recorder;
-    close();
-    std::vector<std::string> expected;
-    for (const std::string& name : kCloseOrder) {
-      if (name != "frmMain") expected.push_back(name);
-    }
-    expected.push_back("frmMain");
-    EXPECT_EQ(recorder.unloaded, expected);
-    for (const FormSlot* slot : FormSlot::All()) EXPECT_FALSE(slot->IsLoaded()) << slot->Name();
-    EXPECT_TRUE(platform.quitRequested);
-  }
-};
+using StartUp = FreshProgram;
 
 TEST_F(StartUp, formLoadBringsEveryRunToTheSameDefaults) {
   // What a previous run might have left must not matter.
@@ -134,7 +97,7 @@ TEST_F(StartUp, formLoadBringsEveryRunToTheSameDefaults) {
   EXPECT_TRUE(form.Command1.Enabled);
 }
 
-TEST_F(StartUp, digitsComeFromTheLastCheckedMenuEntry) {
+TEST_F(StartUp, loadingAgainTakesTheDigitsFromTheMenusAndWritesWithTheTargetGuardUp) {
   FrmMain& form = *frmMain;
   form.mnuDepPrec(1).Checked = true;
   form.mnuDepPrec(3).Checked = true;
@@ -143,10 +106,8 @@ TEST_F(StartUp, digitsComeFromTheLastCheckedMenuEntry) {
   form.Form_Load();
   EXPECT_EQ(DepthPrecision, 3);
   EXPECT_EQ(AgePrecision, 4);
-}
 
-TEST_F(StartUp, firstWritesRunWithTheTargetGuardUp) {
-  FrmMain& form = *frmMain;
+  // Its first writes run with the target guard up.
   std::vector<std::string> seen;
   auto note = [&](const char* what) {
     return [&seen, what] { seen.push_back(std::string(what) + " " + std::to_string(DrivenBy)); };
@@ -164,12 +125,29 @@ TEST_F(StartUp, firstWritesRunWithTheTargetGuardUp) {
             (std::vector<std::string>{"Combo1 9999", "Text2 9999", "Text1 9999", "Option2 0"}));
 }
 
-TEST_F(StartUp, closingTheMainFormClosesEveryFormInOrderAndEndsTheProgram) {
-  ExpectEveryFormClosedInOrder([] { frmMain.Unload(); });
-}
-
-TEST_F(StartUp, terminateClosesEveryFormInOrderAndEndsTheProgram) {
-  ExpectEveryFormClosedInOrder([] { frmMain->Form_Terminate(); });
+// With every form loaded (the last of the list first), closing takes them
+// down in the list's order; the main form's own unload ends last, after it
+// has taken down all the others.
+TEST_F(StartUp, closingOrTerminatingTheMainFormClosesEveryFormInOrderAndEndsTheProgram) {
+  std::vector<std::string> expected;
+  for (const std::string& name : kCloseOrder) {
+    if (name != "frmMain") expected.push_back(name);
+  }
+  expected.push_back("frmMain");
+  for (void (*close)() : {+[] { frmMain.Unload(); }, +[] { frmMain->Form_Terminate(); }}) {
+    platform.quitRequested = false;
+    for (auto name = kCloseOrder.rbegin(); name != kCloseOrder.rend(); ++name) {
+      ASSERT_NE(FormSlot::Find(*name), nullptr) << *name;
+      FormSlot::Find(*name)->GetForm();
+    }
+    ScreenRecorder recorder;
+    SetScreenObserver(&recorder);
+    close();
+    SetScreenObserver(nullptr);
+    EXPECT_EQ(recorder.unloaded, expected);
+    for (const FormSlot* slot : FormSlot::All()) EXPECT_FALSE(slot->IsLoaded()) << slot->Name();
+    EXPECT_TRUE(platform.quitRequested);
+  }
 }
 
 TEST_F(StartUp, formEventsResetTheDividerThePrintedTextAndThePointer) {

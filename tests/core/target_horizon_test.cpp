@@ -17,8 +17,7 @@ class TargetHorizon : public FreshProgram {
  protected:
   void SetUp() override {
     FreshProgram::SetUp();
-    platform.QueueFile(WriteTempFile("four_holes.csv", ModelText(FourHoleModel())));
-    frmMain->Command1_Click();
+    ImportModel(FourHoleModel());
     ASSERT_TRUE(platform.messages.empty());
     ASSERT_EQ(frmMain->Text2.Text.Get(), "240");
   }
@@ -127,11 +126,7 @@ TEST_F(TargetHorizon, ClearedBoxAndTargetAboveEveryTie) {
 }
 
 TEST_F(TargetHorizon, EfdTypedAtAnEventLayerSettles) {
-  // Layers from 260 to 280 and 400 to 410 in composite depth.
-  platform.QueueFile(WriteTempFile(
-      "events.csv",
-      EventListText({{"A", "01", "60", "80", "Turbidite"}, {"A", "02", "50", "60", "Tephra X"}})));
-  frmMain->Command3_Click();
+  ImportEventList(EventListText(kTwoLayersOfFourHoles));
   ASSERT_TRUE(platform.messages.empty());
   FrmMain& form = *frmMain;
   CountFaces();

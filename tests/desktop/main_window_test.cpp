@@ -1,15 +1,19 @@
-// The main form in its window: caption, placement, menus, painting, and the
-// import of a correlation model through the dialog.
+// The main form in its window: caption, placement, menus, painting, the
+// import of a correlation model through the dialog, and a dialog over the
+// disabled main form that keeps the activation.
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QImage>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QTest>
 
 #include "forms/frm_main.h"
+#include "forms/frm_select.h"
 #include "shell_fixture.h"
 #include "support/model_files.h"
 
@@ -105,6 +109,40 @@ TEST_F(MainWindow, ImportsTheModelChosenInTheDialog) {
   EXPECT_TRUE(window->windowTitle().contains(QStringLiteral("core_model_20110305")));
   EXPECT_FALSE(frmMain->Command1.Enabled.Get());
   EXPECT_FALSE(command1->isEnabled());
+}
+
+using DialogWindows = ShellTest;
+
+TEST_F(DialogWindows, DisabledMainFormHandsTheActivationToTheDialog) {
+  frmMain->Show();
+  QWidget* main = WindowOf(*frmMain);
+  ASSERT_NE(main, nullptr);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(main));
+
+  frmMain->Enabled = false;
+  EXPECT_FALSE(main->isEnabled());
+  frmSelect->Show();
+  QWidget* dialog = WindowOf(*frmSelect);
+  ASSERT_NE(dialog, nullptr);
+  EXPECT_NE(dialog, main);
+  EXPECT_TRUE(dialog->isWindow());
+  ASSERT_TRUE(QTest::qWaitForWindowActive(dialog));
+
+  // The main window brought to the front gives the activation back.
+  main->activateWindow();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == dialog; }));
+
+  // A press on a cell leaves the keyboard on "OK".
+  auto* cell = WidgetOf<QLineEdit>(frmSelect->Text2(3));
+  ASSERT_NE(cell, nullptr);
+  QTest::mouseClick(cell, Qt::LeftButton);
+  EXPECT_EQ(QApplication::focusWidget(), WidgetOf<QPushButton>(frmSelect->Command1));
+
+  QTest::mouseClick(WidgetOf<QPushButton>(frmSelect->Command2), Qt::LeftButton);
+  EXPECT_FALSE(frmSelect.IsLoaded());
+  EXPECT_TRUE(main->isEnabled());
+  main->activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(main));
 }
 
 }  // namespace

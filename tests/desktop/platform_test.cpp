@@ -1,5 +1,7 @@
 // The desktop's platform services: filters, pictures from files, the
-// clipboard and the screen's pointer.
+// clipboard and the screen's pointer; and the replayer of the drawn
+// operations: crisp boxes and level lines, smoothed circles, text by its top
+// left corner, at more than one pixel ratio.
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
@@ -10,6 +12,7 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QMessageBox>
+#include <QPainter>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -97,6 +100,119 @@ TEST(QtPlatformTest, PointerOverridesTheCursorUntilSetBack) {
   EXPECT_EQ(platform.MousePointer(), 2);
   platform.SetMousePointer(0);
   EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+constexpr long kRed = RGB(255, 0, 0);
+
+// A white picture of 100 by 100 pixels.
+Picture Blank() {
+  Picture picture;
+  picture.width = 1500;
+  picture.height = 1500;
+  picture.backColour = kWhite;
+  picture.empty = false;
+  return picture;
+}
+
+DrawOp Op(DrawKind kind, float x1, float y1, float x2, float y2, long colour) {
+  DrawOp op;
+  op.kind = kind;
+  op.x1 = x1;
+  op.y1 = y1;
+  op.x2 = x2;
+  op.y2 = y2;
+  op.colour = colour;
+  op.fillColour = colour;
+  op.filled = kind == DrawKind::Box;
+  return op;
+}
+
+// The pixels that are neither of the two colours: smoothing or blur.
+int Blended(const QImage& image, QColor a, QColor b) {
+  int count = 0;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      const QColor c = image.pixelColor(x, y);
+      count += c != a && c != b ? 1 : 0;
+    }
+  }
+  return count;
+}
+
+QRect Extent(const QImage& image, QColor colour) {
+  QRect extent;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      if (image.pixelColor(x, y) == colour) extent |= QRect(x, y, 1, 1);
+    }
+  }
+  return extent;
+}
+
+TEST(PicturePainter, BoxesAreCrispAtEveryPixelRatio) {
+  Picture picture = Blank();
+  // 10 to 49.83 pixels across, 10 to 40 down.
+  picture.ops.push_back(Op(DrawKind::Box, 150, 150, 747.5f, 600, kRed));
+  const QImage single = RenderPicture(picture, 1);
+  EXPECT_EQ(single.size(), QSize(100, 100));
+  EXPECT_EQ(Blended(single, Qt::white, Qt::red), 0);
+  EXPECT_EQ(Extent(single, Qt::red), QRect(QPoint(10, 10), QPoint(49, 40)));
+
+  const QImage doubled = RenderPicture(picture, 2);
+  EXPECT_EQ(doubled.size(), QSize(200, 200));
+  EXPECT_EQ(Blended(doubled, Qt::white, Qt::red), 0);
+  EXPECT_EQ(Extent(doubled, Qt::red), QRect(QPoint(20, 20), QPoint(99, 80)));
+}
+
+TEST(PicturePainter, LevelLinesAndDotsArePixelExact) {
+  Picture picture = Blank();
+  picture.ops.push_back(Op(DrawKind::Line, 0, 300, 1500, 300, kRed));
+  picture.ops.push_back(Op(DrawKind::Line, 750, 900, 750, 900, kBlack));
+  const QImage image = RenderPicture(picture, 1);
+  EXPECT_EQ(Extent(image, Qt::red), QRect(0, 20, 100, 1));
+  EXPECT_EQ(Extent(image, Qt::black), QRect(50, 60, 1, 1));
+  EXPECT_EQ(Blended(image, Qt::white, Qt::red), 1);  // the black dot alone
+
+  picture.ops[0].drawWidth = 3;
+  EXPECT_EQ(Extent(RenderPicture(picture, 2), Qt::red), QRect(0, 38, 200, 6));
+}
+
+TEST(PicturePainter, CirclesAreSmoothAndTextHangsFromItsCorner) {
+  Picture picture = Blank();
+  DrawOp circle = Op(DrawKind::Circle, 750, 750, 0, 0, kBlack);
+  circle.radius = 300;  // 20 pixels
+  circle.filled = true;
+  circle.fillColour = kRed;
+  picture.ops.push_back(circle);
+  const QImage round = RenderPicture(picture, 1);
+  EXPECT_EQ(round.pixelColor(50, 50), QColor(Qt::red));
+  EXPECT_EQ(round.pixelColor(50, 80), QColor(Qt::white));
+  EXPECT_GT(Blended(round, Qt::white, Qt::red), 20);  // the smoothed outline
+
+  for (const qreal ratio : {1.0, 2.0}) {
+    Picture text = Blank();
+    DrawOp print = Op(DrawKind::Text, 300, 450, 0, 0, kBlack);
+    print.text = "Hg";
+    print.fontSize = 10;
+    text.ops.push_back(print);
+    const QImage image = RenderPicture(text, ratio);
+    QRect ink;
+    for (int y = 0; y < image.height(); ++y) {
+      for (int x = 0; x < image.width(); ++x) {
+        if (image.pixelColor(x, y).lightness() < 128) ink |= QRect(x, y, 1, 1);
+      }
+    }
+    // 10 points are 13.3 pixels: the ink starts at the corner (20, 30) and
+    // stays within one line below it.
+    const QRectF logical(ink.x() / ratio, ink.y() / ratio, ink.width() / ratio,
+                         ink.height() / ratio);
+    EXPECT_GE(logical.left(), 20);
+    EXPECT_LE(logical.left(), 22);
+    EXPECT_GE(logical.top(), 30);
+    EXPECT_LE(logical.top(), 34);
+    EXPECT_LE(logical.bottom(), 30 + 16);
+    EXPECT_GE(logical.width(), 12);
+  }
 }
 
 }  // namespace

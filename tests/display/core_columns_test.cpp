@@ -1,3 +1,4 @@
+// The core view: the columns, the events on them and the scale strip.
 #include <algorithm>
 #include <cmath>
 #include <functional>
@@ -7,6 +8,8 @@
 #include "core/project_state.h"
 #include "display/core_columns.h"
 #include "display/display_state.h"
+#include "display/event_view.h"
+#include "display/scale_strip.h"
 #include "display/target_line.h"
 #include "events/event_state.h"
 #include "forms/frm_main.h"
@@ -20,6 +23,8 @@ constexpr long kGrey = RGB(170, 170, 170);
 constexpr long kDarkGrey = RGB(100, 100, 100);
 constexpr long kCyan = RGB(220, 255, 255);
 constexpr long kOrange = RGB(255, 150, 0);
+constexpr long kYellow = RGB(225, 225, 125);
+constexpr long kTephraBlue = RGB(150, 150, 255);
 
 // A row with cells for bore holes A and B; C and D are starred, so empty.
 ModelRow Row(const std::string& splice, std::vector<std::string> a, std::vector<std::string> b,
@@ -75,11 +80,33 @@ Match OfKind(DrawKind kind) {
   return [=](const DrawOp& op) { return op.kind == kind; };
 }
 
+struct Layer {
+  const char* hole;
+  const char* description;
+  const char* top;
+  const char* bottom;
+};
+
+// The list as the import leaves it: composite top and bottom in columns 6
+// and 7, the EFD of the top in column 8.
+void LoadLayers(const std::vector<Layer>& layers) {
+  EventList.Dim({{0, 9}, {0, static_cast<long>(layers.size())}});
+  EventCount = static_cast<long>(layers.size());
+  MergedEventCount = EventCount;
+  for (long r = 1; r <= EventCount; ++r) {
+    const Layer& layer = layers[static_cast<std::size_t>(r - 1)];
+    EventList(1, r) = layer.hole;
+    EventList(5, r) = layer.description;
+    EventList(6, r) = layer.top;
+    EventList(7, r) = layer.bottom;
+    EventList(8, r) = layer.top;
+  }
+}
+
 class CoreColumns : public FreshProgram {
  protected:
   void Import(const std::vector<ModelRow>& rows) {
-    platform.QueueFile(WriteTempFile("model_20110305.csv", ModelText(rows)));
-    frmMain->Command1_Click();
+    ImportModel(rows);
     ASSERT_EQ(LastRow, static_cast<long>(rows.size()) - 1);
   }
   // Every column shows the same window, as the target horizon leaves them.
@@ -109,13 +136,7 @@ class CoreColumns : public FreshProgram {
 
   // A tephra on bore hole A and two age control points, set as their imports leave them.
   void LoadEventsAndAges() {
-    EventList.Dim({{0, 9}, {0, 1}});
-    EventCount = 1;
-    MergedEventCount = 1;
-    EventList(1, 1) = "A";
-    EventList(5, 1) = "Tephra X";
-    EventList(6, 1) = "220";
-    EventList(7, 1) = "230";
+    LoadLayers({{"A", "Tephra X", "220", "230"}});
     AgeModel.Dim({{0, 11}, {0, 2}});
     AgeModelCount = 2;
     AgeModelLoaded = true;
@@ -129,7 +150,7 @@ class CoreColumns : public FreshProgram {
   }
 };
 
-TEST_F(CoreColumns, boreHoleWithoutSectionTopIsGreyToItsLastRowAndDisabled) {
+TEST_F(CoreColumns, boreHoleWithoutSectionTopIsGreyAndDisabledAndThePointerLineClearsAway) {
   Import(TwoSectionsOfA());
   View(0, 500);
   DrawLamina();
@@ -150,6 +171,39 @@ TEST_F(CoreColumns, boreHoleWithoutSectionTopIsGreyToItsLastRowAndDisabled) {
   EXPECT_EQ(Count(0, Box(kGrey, 0, 100)), 1);
   EXPECT_EQ(Count(0, Box(kGrey, 360, 500)), 1);
   EXPECT_EQ(Count(0, LineAt(kDarkGrey, 0, 360, 7.6f, 500)), 0);
+
+  // The pointer line is an overlay that clears away.
+  frmMain->mnuHorizontalBH.Click();
+  EXPECT_EQ(Count(3, Mark(RGB(0, 170, 0), 250)), 1);
+  const std::size_t base = Ops(1).size();
+
+  TargetLine(300);
+  for (int i = 0; i <= 4; ++i) {
+    const auto& overlay = frmMain->BoreHole(i).WorkingOps();
+    ASSERT_EQ(overlay.size(), 1u);
+    EXPECT_TRUE(LineAt(kOrange, 0, 300, 7.6f, 300)(overlay[0]));
+    EXPECT_EQ(frmMain->Picture1(i).WorkingOps().size(), 1u);
+  }
+  const auto& strip = frmMain->BoreHole(5).WorkingOps();
+  ASSERT_EQ(strip.size(), 2u);
+  EXPECT_TRUE(LineAt(kOrange, 7.5f, 300, 9.5f, 300)(strip[0]));
+  EXPECT_EQ(strip[1].kind, DrawKind::Circle);
+  EXPECT_EQ(Ops(1).size(), base);
+
+  ClearTargetLine();
+  for (int i = 0; i <= 5; ++i) EXPECT_TRUE(frmMain->BoreHole(i).WorkingOps().empty());
+  EXPECT_EQ(Ops(1).size(), base);
+
+  // Without the horizontal line only the strip shows the pointer.
+  frmMain->mnuHorizontal.Click();
+  EXPECT_FALSE(frmMain->mnuHorizontal.Checked);
+  for (int p = 0; p <= 4; ++p) EXPECT_FALSE(frmMain->mnuHorizontalN(p).Checked);
+  TargetLine(300);
+  EXPECT_TRUE(frmMain->BoreHole(1).WorkingOps().empty());
+  EXPECT_EQ(frmMain->BoreHole(5).WorkingOps().size(), 2u);
+  frmMain->mnuHorizontalN(3).Click();
+  EXPECT_TRUE(frmMain->mnuHorizontal.Checked);
+  EXPECT_TRUE(frmMain->mnuHorizontalN(0).Checked);
 }
 
 TEST_F(CoreColumns, pieceAfterAGapStartsFromThePspOfTheRowAfterTheGap) {
@@ -231,7 +285,7 @@ TEST_F(CoreColumns, pinIsAGreenDotWithItsLabelAndNoLine) {
   EXPECT_TRUE(Near(Text(1, "L1 (50 cm)")->uy1, static_cast<float>(150 - k / 2)));
 }
 
-TEST_F(CoreColumns, layersLieInTheirOrderAndRepaintsDoNotPileUp) {
+TEST_F(CoreColumns, layersLieInTheirOrderRepaintsDoNotPileUpAndSizeOneLeavesNoText) {
   Import(TwoSectionsOfA());
   LoadEventsAndAges();
   View(0, 500);
@@ -260,12 +314,8 @@ TEST_F(CoreColumns, layersLieInTheirOrderAndRepaintsDoNotPileUp) {
   DrawLamina();
   EXPECT_EQ(Ops(1).size(), size);
   EXPECT_EQ(SavedDepthText, frmMain->Text2.Text.Get());
-}
 
-TEST_F(CoreColumns, sizeOneLeavesNoTextButKeepsMarksAndCircles) {
-  Import(TwoSectionsOfA());
-  LoadEventsAndAges();
-  View(0, 500);
+  // Size one leaves no text but keeps the marks and circles.
   frmMain->mnuShowLabCodes.Click();
   frmMain->mnuShowTiePoints.Click();
   // Labels, lab codes, tie names and the tephra's name are all there at size 7.
@@ -286,40 +336,241 @@ TEST_F(CoreColumns, sizeOneLeavesNoTextButKeepsMarksAndCircles) {
   EXPECT_EQ(Count(0, Mark(RGB(255, 0, 0), 310)), 1);
 }
 
-TEST_F(CoreColumns, pointerLineIsAnOverlayThatClearsAway) {
-  Import(TwoSectionsOfA());
-  View(0, 500);
-  frmMain->mnuHorizontalBH.Click();
-  EXPECT_EQ(Count(3, Mark(RGB(0, 170, 0), 250)), 1);
-  const std::size_t base = Ops(1).size();
-
-  TargetLine(300);
-  for (int i = 0; i <= 4; ++i) {
-    const auto& overlay = frmMain->BoreHole(i).WorkingOps();
-    ASSERT_EQ(overlay.size(), 1u);
-    EXPECT_TRUE(LineAt(kOrange, 0, 300, 7.6f, 300)(overlay[0]));
-    EXPECT_EQ(frmMain->Picture1(i).WorkingOps().size(), 1u);
+class EventView : public CoreColumns {
+ protected:
+  void SetUp() override {
+    CoreColumns::SetUp();
+    View(0, 500);
   }
-  const auto& strip = frmMain->BoreHole(5).WorkingOps();
-  ASSERT_EQ(strip.size(), 2u);
-  EXPECT_TRUE(LineAt(kOrange, 7.5f, 300, 9.5f, 300)(strip[0]));
-  EXPECT_EQ(strip[1].kind, DrawKind::Circle);
-  EXPECT_EQ(Ops(1).size(), base);
+  const std::vector<DrawOp>& Drawn(int column) { return frmMain->BoreHole(column).WorkingOps(); }
+  static bool IsBand(const DrawOp& op, long colour, float upper, float lower) {
+    return Box(colour, upper, lower)(op) && Near(op.ux1, 0) && Near(op.ux2, 7.6f);
+  }
+  static bool IsCross(const DrawOp& op, float y1, float y2) {
+    return LineAt(kDarkGrey, 0, y1, 7.6f, y2)(op);
+  }
+};
 
-  ClearTargetLine();
-  for (int i = 0; i <= 5; ++i) EXPECT_TRUE(frmMain->BoreHole(i).WorkingOps().empty());
-  EXPECT_EQ(Ops(1).size(), base);
+TEST(TephraNameTest, nameBesideTheWordAtEitherEnd) {
+  EXPECT_EQ(GetTephraName("Tephra X"), "X");
+  EXPECT_EQ(GetTephraName("X Tephra"), "X");
+  EXPECT_EQ(GetTephraName("Tephra"), "");
+  EXPECT_EQ(GetTephraName("Tephra "), "");
+  EXPECT_EQ(GetTephraName(" tephra Mount 7"), "Mount 7");
+  EXPECT_EQ(GetTephraName("Mount 7 tephra "), "Mount 7");
+  EXPECT_EQ(GetTephraName("Laacher Tephra layer"), "");
+  EXPECT_TRUE(IsTephra("Tephra in void"));
+  EXPECT_TRUE(IsVoid("Tephra in void"));
+  EXPECT_FALSE(IsTephra("Tephr"));
+  EXPECT_TRUE(IsVoid("void"));
+  EXPECT_FALSE(IsVoid("Voi"));
+  EXPECT_FALSE(IsVoid("VOID"));
+}
 
-  // Without the horizontal line only the strip shows the pointer.
-  frmMain->mnuHorizontal.Click();
-  EXPECT_FALSE(frmMain->mnuHorizontal.Checked);
-  for (int p = 0; p <= 4; ++p) EXPECT_FALSE(frmMain->mnuHorizontalN(p).Checked);
-  TargetLine(300);
-  EXPECT_TRUE(frmMain->BoreHole(1).WorkingOps().empty());
-  EXPECT_EQ(frmMain->BoreHole(5).WorkingOps().size(), 2u);
-  frmMain->mnuHorizontalN(3).Click();
-  EXPECT_TRUE(frmMain->mnuHorizontal.Checked);
-  EXPECT_TRUE(frmMain->mnuHorizontalN(0).Checked);
+TEST_F(EventView, tephrasLieOverLayersAndVoidsOverBoth) {
+  // The slump spans the whole view; the last tephra lies just below it.
+  LoadLayers({{"D", "Slump", "-10", "600"},
+              {"A", "Sand", "100", "120"},
+              {"B", "Tephra T1", "110", "115"},
+              {"A", "Void", "200", "260"},
+              {"C", "Tephra in void", "300", "310"},
+              {"B", "Tephra Below", "505", "510"}});
+  DrawEvents();
+  const auto& composite = Drawn(0);
+  ASSERT_EQ(composite.size(), 9u);
+  EXPECT_TRUE(IsBand(composite[0], kYellow, -10, 600));
+  EXPECT_TRUE(IsBand(composite[1], kYellow, 100, 120));
+  EXPECT_TRUE(IsBand(composite[2], kTephraBlue, 110, 115));
+  const double k = (500.0 / 60) * (7.0 / 6);
+  EXPECT_EQ(composite[3].text, "T1");
+  EXPECT_TRUE(Near(composite[3].ux1, 0.2f) && Near(composite[3].uy1, static_cast<float>(110 - k)));
+  EXPECT_TRUE(IsBand(composite[4], kTephraBlue, 300, 310));
+  EXPECT_EQ(composite[5].text, "in void");
+  EXPECT_TRUE(IsBand(composite[6], kGrey, 200, 260));
+  EXPECT_TRUE(IsCross(composite[7], 200, 260));
+  EXPECT_TRUE(IsCross(composite[8], 260, 200));
+  // Each layer also stands on its own bore hole's column.
+  ASSERT_EQ(Drawn(1).size(), 4u);
+  EXPECT_TRUE(IsBand(Drawn(1)[0], kYellow, 100, 120));
+  EXPECT_TRUE(IsBand(Drawn(1)[1], kGrey, 200, 260));
+  ASSERT_EQ(Drawn(2).size(), 1u);
+  EXPECT_TRUE(IsBand(Drawn(2)[0], kTephraBlue, 110, 115));
+  ASSERT_EQ(Drawn(3).size(), 1u);
+  ASSERT_EQ(Drawn(4).size(), 1u);
+
+  // No names at size 1; on the event free scale a layer has no thickness.
+  for (int i = 0; i <= 4; ++i) frmMain->BoreHole(i).Cls();
+  frmMain->mnuSize(1).Checked = true;
+  DepthAxis = 2;
+  DrawEvents();
+  EXPECT_EQ(EventColumnTop, 8);
+  EXPECT_EQ(EventColumnBottom, 8);
+  for (const DrawOp& op : Drawn(0)) {
+    EXPECT_NE(op.kind, DrawKind::Text);
+    EXPECT_TRUE(Near(op.uy1, op.uy2) || op.kind == DrawKind::Line);
+  }
+  ASSERT_FALSE(Drawn(1).empty());
+  EXPECT_TRUE(IsBand(Drawn(1)[0], kYellow, 100, 100));
+}
+
+class ScaleStrip : public CoreColumns {
+ protected:
+  // The form loads first: its defaults must not undo what a test sets.
+  void SetUp() override {
+    CoreColumns::SetUp();
+    frmMain.GetForm();
+  }
+  bool HasTick(float fromX, float y) { return Count(5, LineAt(kBlack, fromX, y, 9, y)) > 0; }
+  bool HasNumber(const std::string& text, float x, float y) {
+    return Count(5, [&](const DrawOp& op) {
+             return op.kind == DrawKind::Text && op.text == text && Near(op.ux1, x) &&
+                    Near(op.uy1, y);
+           }) > 0;
+  }
+  long TicksFrom(float fromX) {
+    return Count(5, [&](const DrawOp& op) {
+      return op.kind == DrawKind::Line && Near(op.ux1, fromX) && op.uy1 == op.uy2;
+    });
+  }
+
+  // Age is ten times the depth, and no event layer: EFD equals composite depth.
+  void LoadLinearAgeModel() {
+    LoadLayers({});
+    EventListLoaded = true;
+    AgeModel.Dim({{0, 11}, {0, 2}});
+    AgeModelCount = 2;
+    AgeModelLoaded = true;
+    const char* depth[] = {"0", "20000"};
+    const char* age[] = {"0", "200000"};
+    for (int r = 1; r <= 2; ++r) {
+      AgeModel(0, r) = "C1";
+      AgeModel(5, r) = depth[r - 1];
+      AgeModel(11, r) = depth[r - 1];
+      AgeModel(7, r) = age[r - 1];
+      AgeModel(6, r) = "0";
+      AgeModel(8, r) = "0";
+      AgeModel(9, r) = "yr";
+    }
+  }
+};
+
+TEST_F(ScaleStrip, depthScaleTicksAndNumbersStandLevelWithTheColumnsBySpan) {
+  View(0, 500);
+  frmMain->mnuDepth.Click();
+  PictureBox& strip = frmMain->BoreHole(5);
+  // Round(503.5 as a Double, which lies just below it) + 0.14, centred on the columns.
+  EXPECT_NEAR(strip.ScaleHeight, 503.14f, 1e-4);
+  EXPECT_NEAR(strip.ScaleTop, -1.57f, 1e-4);
+  EXPECT_TRUE(frmMain->mnuDepth.Checked);
+  EXPECT_FALSE(frmMain->mnuAge.Checked);
+  EXPECT_TRUE(strip.WorkingOps().empty());
+  EXPECT_TRUE(HasTick(7, 0));
+  EXPECT_TRUE(HasNumber(" 0 ", 4.8f, -5));
+  EXPECT_TRUE(HasTick(7, 100));
+  EXPECT_TRUE(HasNumber(" 100 ", 2.8f, 95));
+  EXPECT_TRUE(HasTick(8, 50));
+  EXPECT_TRUE(HasNumber(" 50 ", 3.8f, 45));
+  EXPECT_TRUE(HasTick(8, 450));
+  EXPECT_TRUE(HasTick(8.5f, 10));
+  EXPECT_TRUE(HasTick(8.5f, 490));
+  // What lies outside the strip is clipped away.
+  EXPECT_FALSE(HasTick(7, 1000));
+  EXPECT_EQ(platform.MousePointer(), 0);
+
+  // A span of 2000 has no ticks of 50.
+  View(0, 2000);
+  frmMain->mnuDepth.Click();
+  EXPECT_EQ(TicksFrom(8), 0);
+  EXPECT_FALSE(HasNumber(" 150 ", 2.8f, 130));
+  EXPECT_TRUE(HasTick(7, 1000));
+  EXPECT_TRUE(HasNumber(" 1000 ", 1.8f, 980));
+  EXPECT_TRUE(HasTick(8.5f, 1990));
+
+  View(0, 1000);
+  frmMain->mnuDepth.Click();
+  EXPECT_TRUE(HasNumber(" 150 ", 2.8f, 140));
+}
+
+TEST_F(ScaleStrip, varveBandFixedHorizonAndCopyOnWhite) {
+  View(0, 500);
+  VarveCountsLoaded = true;
+  VarveTopCD = 120;
+  VarveBottomCD = 330;
+  frmMain->mnuHorizontalBH.Checked = true;
+  frmMain->mnuDepth.Click();
+  PictureBox& strip = frmMain->BoreHole(5);
+  const long green = RGB(0, 170, 0);
+  const float middle = strip.ScaleTop + strip.ScaleHeight / 2;
+  EXPECT_EQ(Count(5,
+                  [](const DrawOp& op) {
+                    return Box(RGB(255, 150, 150), 120, 330)(op) && Near(op.ux1, 8.2f) &&
+                           Near(op.ux2, 9);
+                  }),
+            1);
+  EXPECT_EQ(Count(5, LineAt(green, 7.5f, middle, 9.5f, middle)), 1);
+  EXPECT_TRUE(std::any_of(Ops(5).begin(), Ops(5).end(), [&](const DrawOp& op) {
+    return op.kind == DrawKind::Circle && op.filled && op.fillColour == green &&
+           Near(op.ux1, 7.25f);
+  }));
+
+  const long own = strip.BackColor;
+  ASSERT_NE(own, kWhite);
+  frmMain->mnuCopyDepth.Click();
+  ASSERT_TRUE(platform.clipboard.has_value());
+  ASSERT_FALSE(platform.clipboard->ops.empty());
+  EXPECT_EQ(platform.clipboard->ops.front().kind, DrawKind::Box);
+  EXPECT_EQ(platform.clipboard->ops.front().colour, kWhite);
+  EXPECT_EQ(strip.BackColor.Get(), own);
+
+  // The columns' copies take the committed picture, not the pointer's line.
+  frmMain->BoreHole(2).Line(0, 10, 7.6f, 10, RGB(255, 150, 0));
+  CopyHole = 2;
+  frmMain->mnuCopyCore.Click();
+  EXPECT_EQ(platform.clipboard->ops.size(), frmMain->BoreHole(2).BaseOps().size());
+  EXPECT_FALSE(frmMain->BoreHole(2).WorkingOps().empty());
+  frmMain->mnuCompCopy.Click();
+  EXPECT_EQ(platform.clipboard->ops.size(), frmMain->BoreHole(0).BaseOps().size());
+}
+
+TEST_F(ScaleStrip, ageScaleLabelsEachThousandYearsAndSkipsWhereItIsTold) {
+  LoadLinearAgeModel();
+  View(0, 500);
+  frmMain->mnuAge.Click();
+  EXPECT_TRUE(frmMain->mnuAge.Checked);
+  EXPECT_FALSE(frmMain->mnuDepth.Checked);
+  EXPECT_TRUE(HasTick(8, 0));
+  EXPECT_TRUE(HasNumber(" 0 ", 6.2f, -5));
+  EXPECT_TRUE(HasTick(8, 100));
+  EXPECT_TRUE(HasNumber(" 1000 ", 2.8f, 95));
+  EXPECT_TRUE(HasNumber(" 5000 ", 2.8f, 495));
+  EXPECT_TRUE(HasTick(8.1f, 50));
+  EXPECT_TRUE(HasTick(8.55f, 10));
+  EXPECT_EQ(platform.MousePointer(), 0);
+
+  // With both ends past 9900 and 99100 years the loop of ten thousands is
+  // skipped, and its 99000 goes without a number; from 100000 on the numbers
+  // are thousands.
+  View(9850, 500);
+  frmMain->mnuAge.Click();
+  EXPECT_TRUE(HasTick(8.55f, 9900));
+  EXPECT_EQ(Count(5, [](const DrawOp& op) { return op.text == " 99000 "; }), 0);
+  EXPECT_TRUE(HasTick(8, 10000));
+  EXPECT_TRUE(HasNumber(" 100 ", 3.8f, 9995));
+  EXPECT_TRUE(HasNumber(" 103 ", 3.8f, 10295));
+
+  // Size one leaves the fine depth ticks and only the age axis.
+  View(0, 500);
+  frmMain->mnuSize(1).Click();
+  frmMain->mnuDepth.Click();
+  EXPECT_EQ(Count(5, OfKind(DrawKind::Text)), 0);
+  EXPECT_EQ(TicksFrom(7), 0);
+  EXPECT_EQ(TicksFrom(8.5f), 50);
+
+  frmMain->mnuAge.Click();
+  ASSERT_EQ(Ops(5).size(), 2u);
+  EXPECT_EQ(Ops(5)[0].kind, DrawKind::Box);
+  EXPECT_EQ(Ops(5)[1].kind, DrawKind::Line);
+  EXPECT_TRUE(Near(Ops(5)[1].ux1, 9) && Near(Ops(5)[1].uy1, 0) && Near(Ops(5)[1].ux2, 9));
 }
 
 }  // namespace

@@ -4,45 +4,26 @@
 #include "core/project_state.h"
 #include "display/display_state.h"
 #include "display/mouse_on_columns.h"
-#include "forms/form.h"
 #include "forms/frm_main.h"
 #include "support/event_files.h"
 #include "support/fresh_program.h"
 #include "support/model_files.h"
+#include "support/screen_recorder.h"
 
 namespace ostraline {
 namespace {
-
-// Records the menus the form opens; everything else the screen is told is ignored.
-class PopupRecorder : public ScreenObserver {
- public:
-  void FormLoaded(Form&) override {}
-  void FormUnloaded(Form&) override {}
-  void FormPropertyChanged(Form&, std::string_view) override {}
-  void ControlPropertyChanged(Control&, std::string_view) override {}
-  void SurfaceChanged(Control&, bool) override {}
-  void FocusChanged(Control*) override {}
-  void PopupMenu(Form&, Menu& menu) override { opened.push_back(menu.FullName()); }
-  std::vector<std::string> opened;
-};
 
 class MouseOnColumns : public FreshProgram {
  protected:
   void SetUp() override {
     FreshProgram::SetUp();
     SetScreenObserver(&popups);
-    platform.QueueFile(WriteTempFile("four_holes.csv", ModelText(FourHoleModel())));
-    frmMain->Command1_Click();
+    ImportModel(FourHoleModel());
     ASSERT_TRUE(platform.messages.empty());
     ASSERT_EQ(frmMain->Text2.Text.Get(), "240");
     ASSERT_TRUE(frmMain->Option2(1).Value);
   }
-  void TearDown() override {
-    SetScreenObserver(nullptr);
-    FreshProgram::TearDown();
-  }
-
-  PopupRecorder popups;
+  ScreenRecorder popups;
 };
 
 TEST_F(MouseOnColumns, LeftClickOnABoreHoleMovesTheTarget) {
@@ -145,11 +126,7 @@ TEST_F(MouseOnColumns, RightClicksOpenTheirMenusOnce) {
 }
 
 TEST_F(MouseOnColumns, CompositeClickOnTheEfdScaleConvertsBack) {
-  // Layers from 260 to 280 and 400 to 410 in composite depth.
-  platform.QueueFile(WriteTempFile(
-      "events.csv",
-      EventListText({{"A", "01", "60", "80", "Turbidite"}, {"A", "02", "50", "60", "Tephra X"}})));
-  frmMain->Command3_Click();
+  ImportEventList(EventListText(kTwoLayersOfFourHoles));
   ASSERT_TRUE(platform.messages.empty());
   FrmMain& form = *frmMain;
   form.Option2(2).Value = true;

@@ -26,8 +26,7 @@ std::vector<ModelRow> DeepModel() {
 class RangeAndLayout : public FreshProgram {
  protected:
   void Load(const std::vector<ModelRow>& rows) {
-    platform.QueueFile(WriteTempFile("model.csv", ModelText(rows)));
-    frmMain->Command1_Click();
+    ImportModel(rows);
     ASSERT_TRUE(platform.messages.empty());
   }
 

@@ -78,8 +78,7 @@ TEST_F(AgeModelImport, RowsArePlacedOnTheCompositeAndEfdScales) {
 
 TEST_F(AgeModelImport, HeaderTailNamesTheModelVersion) {
   for (const char* tail : {"Composite depth (05 Mar. 2011)", "Composite depth 05 Mar. 2011"}) {
-    ResetProgram();
-    ImportModelAndEvents(kFusedLayer);
+    Restart(kFusedLayer);
     ImportAges(Points(), {tail});
     EXPECT_TRUE(platform.messages.empty()) << tail << ": " << OnlyMessage();
     EXPECT_TRUE(AgeModelLoaded);
@@ -88,22 +87,13 @@ TEST_F(AgeModelImport, HeaderTailNamesTheModelVersion) {
   // number that is no date passes as text. Yes goes on.
   for (auto [tail, version] : {std::pair{"Composite depth (5 Mar. 2011)", "5 Mar. 2011"},
                                std::pair{"(20110305)", "20110305"}}) {
-    ResetProgram();
-    platform.messages.clear();
-    ImportModelAndEvents(kFusedLayer);
+    Restart(kFusedLayer);
     ImportAges(Points(), {tail});
     EXPECT_EQ(OnlyMessage(), Warning(version));
     EXPECT_EQ(platform.messages.at(0).buttons, MsgButtons::YesNo);
     EXPECT_TRUE(AgeModelLoaded);
     EXPECT_EQ(EventCount, 2);
   }
-}
-
-TEST_F(AgeModelImport, NoTakesTheEventLayersOut) {
-  platform.QueueAnswer(MsgAnswer::No);
-  ImportAges(Points(), {"Composite depth (5 Mar. 2011)"});
-  EXPECT_EQ(OnlyMessage(), Warning("5 Mar. 2011"));
-  ExpectRefused();
 }
 
 TEST_F(AgeModelImport, FailuresNameTheBoreHoleWhileTheDuoIsClosed) {
@@ -118,9 +108,7 @@ TEST_F(AgeModelImport, FailuresNameTheBoreHoleWhileTheDuoIsClosed) {
   // Without a plain number in column 5, or with a section to look up.
   for (AgeRow bad : {AgeRow{"L-b", "Q", "---", "---", "200 cm", "20", "2000", "30", "C2", "a", "-"},
                      AgeRow{"L-b", "Q", "01", "30", "200", "20", "2000", "30", "C2", "a", "-"}}) {
-    ResetProgram();
-    platform.messages.clear();
-    ImportModelAndEvents(kFusedLayer);
+    Restart(kFusedLayer);
     rows[1] = bad;
     ImportAges(rows);
     EXPECT_EQ(OnlyMessage(), unknown);
@@ -128,9 +116,7 @@ TEST_F(AgeModelImport, FailuresNameTheBoreHoleWhileTheDuoIsClosed) {
   }
 
   // A header tail that is no number fails too, named after the header's cell.
-  ResetProgram();
-  platform.messages.clear();
-  ImportModelAndEvents(kFusedLayer);
+  Restart(kFusedLayer);
   ImportAges(Points(), {"Composite depth (version Mar)"});
   EXPECT_EQ(OnlyMessage(),
             "Error: Bore hole name 'Hole' has not been defined. Import parallel correlation model "
@@ -138,21 +124,24 @@ TEST_F(AgeModelImport, FailuresNameTheBoreHoleWhileTheDuoIsClosed) {
   ExpectRefused();
 
   // With the Duo open the same failures read as a format error.
-  ResetProgram();
-  platform.messages.clear();
-  ImportModelAndEvents(kFusedLayer);
+  Restart(kFusedLayer);
   DuoOpen = true;
   ImportAges(Points(), {"Composite depth (05 Mar. 2011)", "9.5"});  // a decimal mark too early
   EXPECT_EQ(OnlyMessage(), "Error: File format error.");
   ExpectRefused();
 }
 
-TEST_F(AgeModelImport, CancelChangesNothing) {
+TEST_F(AgeModelImport, CancelChangesNothingAndNoTakesTheEventLayersOut) {
   platform.QueueCancel();
   frmMain->Command4_Click();
   EXPECT_TRUE(platform.messages.empty());
   EXPECT_EQ(EventCount, 2);
   EXPECT_FALSE(AgeModelLoaded);
+
+  platform.QueueAnswer(MsgAnswer::No);
+  ImportAges(Points(), {"Composite depth (5 Mar. 2011)"});
+  EXPECT_EQ(OnlyMessage(), Warning("5 Mar. 2011"));
+  ExpectRefused();
 }
 
 TEST_F(AgeModelImport, ReferenceRowsChangeNoAge) {
@@ -163,8 +152,7 @@ TEST_F(AgeModelImport, ReferenceRowsChangeNoAge) {
   // 155 cm lies in the layer: EFD 150, 15/55 of the way from L-a to L-b.
   EXPECT_DOUBLE_EQ(withReferences[3], 1000 + 1000.0 * 15 / 55);
 
-  ResetProgram();
-  ImportModelAndEvents(kFusedLayer);
+  Restart(kFusedLayer);
   auto rows = Points();
   rows.erase(rows.begin() + 2, rows.begin() + 4);
   ImportAges(rows);

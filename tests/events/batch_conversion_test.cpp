@@ -1,8 +1,8 @@
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include "core/project_state.h"
 #include "events/batch_state.h"
@@ -15,11 +15,32 @@
 namespace ostraline {
 namespace {
 
+constexpr int kEveryScale = kScaleComposite | kScaleEfd | kScaleAge;
 const std::string kCdTitle = "\"Composite depth (correlation model: version 05 Mar. 2011)\"";
 const std::string kEfdTitle = "\"Event free depth (event list: version 01 Apr. 2011)\"";
 const std::string kAgeTitles =
     "\"Age (age model: version 01 Jan. 2012)\",\"Age 95.4 % error (+)\",\"Age 68.2 % error (-)\","
     "\"Age unit\"";
+
+// A converted file with every output scale: the scales in file order, and
+// each line as the cells written always followed by the cells of each scale.
+struct Converted {
+  std::vector<int> scales;
+  std::vector<std::vector<std::string>> lines;
+};
+
+// The file as written with only the scales of `shown` ticked.
+std::string Written(const Converted& file, int shown) {
+  std::string text;
+  for (const auto& line : file.lines) {
+    text += line[0];
+    for (std::size_t i = 0; i < file.scales.size(); ++i) {
+      if (shown & file.scales[i]) text += "," + line[i + 1];
+    }
+    text += "\r\n";
+  }
+  return text;
+}
 
 // Samples by position. In section 01 of bore hole A the composite depth is
 // 110 + (PSP - 10) * 1.25, in section 02 it is 210 + PSP; the layer from 150
@@ -28,27 +49,21 @@ const std::string kAgeTitles =
 const char* const kPositions =
     "Sample,Hole,Section,PSP\r\nS1,A,01,30\r\nS2,Bore hole A,01,46\r\nS3,A,02,30\r\n"
     "S4,A,01,85\r\nS5,A,01,9999\r\nS6,X,01,10\r\n";
+const Converted kPositionsConverted = {
+    {kScaleComposite, kScaleEfd, kScaleAge},
+    {{"\"Sample\",\"Hole\",\"Section\",\"PSP\"", kCdTitle, kEfdTitle, kAgeTitles},
+     {"\"S1\",\"A\",\"01\",\"30\"", "135", "135", "900,9,19,\"cal BP\""},
+     {"\"S2\",\"Bore hole A\",\"01\",\"46\"", "155", "150", "1200,12,22,\"cal BP\""},
+     {"\"S3\",\"A\",\"02\",\"30\"", "240", "230", "2800,36,38,\"Hybrid unit\""},
+     {"\"S4\",\"A\",\"01\",\"85\"", "9999", "9999", "9999,9999,9999,9999"},
+     {"\"S5\",\"A\",\"01\",\"9999\"", "9999", "\"9999\"", "9999,9999,9999,\"9999\""},
+     {"\"S6\",\"X\",\"01\",\"10\"", "9999", "9999", "9999,9999,9999,9999"}}};
 
 class BatchConversion : public AgeProgram {
  protected:
-  // Control points at EFD 140, 190 and 240 (composite 140, 200 and 250):
-  // 20 years to the cm, the last one counted in another unit.
-  void ImportAll() {
-    ImportModelAndEvents(kFusedLayer);
-    ImportAges({{"P1", "A", "01", "34", "0", "10", "1000", "20", "C1", "cal BP", "-"},
-                {"P2", "---", "---", "---", "200", "20", "2000", "30", "C1", "cal BP", "-"},
-                {"P3", "A", "02", "40", "0", "40", "3000", "40", "C1", "varve yr", "-"}});
-    ASSERT_TRUE(platform.messages.empty()) << OnlyMessage();
-    ASSERT_TRUE(AgeModelLoaded);
-  }
-
   void ReadDataFile(const std::string& text) {
     platform.QueueFile(WriteTempFile("samples.csv", text));
     frmMain->Command2_Click();
-  }
-
-  static void Untick(std::initializer_list<int> scales) {
-    for (int scale : scales) frmConversion->Check1(scale).Value = 0;
   }
 
   static std::string Contents(const std::string& path) {
@@ -58,16 +73,30 @@ class BatchConversion : public AgeProgram {
     return text.str();
   }
 
-  // Reads the data file, makes the choices on the form, presses "Convert and
-  // Save" and gives back what was written.
-  std::string Convert(const std::string& data, const std::function<void()>& choose = {}) {
+  // Reads the data file, unticks the output scales not `shown` that may be
+  // unticked, presses "Convert and Save" and gives back what was written.
+  std::string Convert(const std::string& data, int shown = kEveryScale) {
     ReadDataFile(data);
     if (!frmConversion.IsLoaded()) return "<no form>";
-    if (choose) choose();
+    for (int scale : {kScaleComposite, kScaleEfd, kScaleAge}) {
+      if (!(shown & scale) && frmConversion->Check1(scale).Enabled)
+        frmConversion->Check1(scale).Value = 0;
+    }
     output = WriteTempFile("converted.csv", "");
     platform.QueueFile(output);
     frmConversion->Command1_Click();
     return Contents(output);
+  }
+
+  // Every choice of ticks on one data file: the written file and the mask.
+  void ExpectEveryChoice(const std::string& data, int input, const Converted& file) {
+    for (int shown = 0; shown <= kEveryScale; shown += kScaleComposite) {
+      SCOPED_TRACE(shown);
+      EXPECT_EQ(Convert(data, shown), Written(file, shown | input));
+      EXPECT_EQ(InputKind, input);
+      EXPECT_EQ(ToMask, shown | input);
+    }
+    EXPECT_TRUE(platform.messages.empty()) << OnlyMessage();
   }
 
   std::string output;
@@ -76,17 +105,7 @@ class BatchConversion : public AgeProgram {
 TEST_F(BatchConversion, PositionsGiveEveryTickedScale) {
   ImportAll();
   const std::string label9 = frmMain->Label9.Caption;
-  EXPECT_EQ(Convert(kPositions),
-            "\"Sample\",\"Hole\",\"Section\",\"PSP\"," + kCdTitle + "," + kEfdTitle + "," +
-                kAgeTitles +
-                "\r\n"
-                "\"S1\",\"A\",\"01\",\"30\",135,135,900,9,19,\"cal BP\"\r\n"
-                "\"S2\",\"Bore hole A\",\"01\",\"46\",155,150,1200,12,22,\"cal BP\"\r\n"
-                "\"S3\",\"A\",\"02\",\"30\",240,230,2800,36,38,\"Hybrid unit\"\r\n"
-                "\"S4\",\"A\",\"01\",\"85\",9999,9999,9999,9999,9999,9999\r\n"
-                "\"S5\",\"A\",\"01\",\"9999\",9999,\"9999\",9999,9999,9999,\"9999\"\r\n"
-                "\"S6\",\"X\",\"01\",\"10\",9999,9999,9999,9999,9999,9999\r\n");
-  EXPECT_TRUE(platform.messages.empty());
+  ExpectEveryChoice(kPositions, kScaleTrinity, kPositionsConverted);
   EXPECT_FALSE(frmConversion.IsLoaded());
   EXPECT_EQ(frmMain->Label9.Caption.Get(), label9);
   EXPECT_EQ(DriveIndex, 0);
@@ -94,65 +113,31 @@ TEST_F(BatchConversion, PositionsGiveEveryTickedScale) {
   EXPECT_EQ(platform.dialogs.back().filter, "DataFile(*.csv)|*.csv");
   EXPECT_TRUE(platform.dialogs.back().overwritePrompt);
 
-  // Label, hole, section and PSP always; each other scale only by its tick.
-  EXPECT_EQ(Convert(kPositions,
-                    [] {
-                      Untick({kScaleEfd, kScaleAge});
-                    }),
-            "\"Sample\",\"Hole\",\"Section\",\"PSP\"," + kCdTitle +
-                "\r\n\"S1\",\"A\",\"01\",\"30\",135\r\n\"S2\",\"Bore hole A\",\"01\",\"46\",155\r\n"
-                "\"S3\",\"A\",\"02\",\"30\",240\r\n\"S4\",\"A\",\"01\",\"85\",9999\r\n"
-                "\"S5\",\"A\",\"01\",\"9999\",9999\r\n\"S6\",\"X\",\"01\",\"10\",9999\r\n");
-  EXPECT_EQ(ToMask, 3);
-  const std::string efdOnly = Convert(kPositions, [] { Untick({kScaleComposite, kScaleAge}); });
-  EXPECT_EQ(ToMask, 5);
-  EXPECT_EQ(efdOnly.substr(0, efdOnly.find("\r\n\"S2")),
-            "\"Sample\",\"Hole\",\"Section\",\"PSP\"," + kEfdTitle +
-                "\r\n\"S1\",\"A\",\"01\",\"30\",135");
-  const std::string ageOnly = Convert(kPositions, [] { Untick({kScaleComposite, kScaleEfd}); });
-  EXPECT_EQ(ToMask, 9);
-  EXPECT_NE(ageOnly.find("\r\n\"S3\",\"A\",\"02\",\"30\",2800,36,38,\"Hybrid unit\"\r\n"),
-            std::string::npos);
-
   // One decimal: PSP 31 lies at 136.25 cm, rounded half to even; its age
   // comes from the rounded EFD, 1000 + (136.2 - 140) * 20. The section's
   // bottom (PSP 80) and top (PSP 0) are inside it.
   DepthPrecision = 1;
   EXPECT_EQ(Convert("Sample,Hole,Section,PSP\r\nS7,A,01,31\r\nS8,A,01,80\r\nS9,A,01,0\r\n"),
-            "\"Sample\",\"Hole\",\"Section\",\"PSP\"," + kCdTitle + "," + kEfdTitle + "," +
-                kAgeTitles +
-                "\r\n\"S7\",\"A\",\"01\",\"31\",136.2,136.2,924,9,19,\"cal BP\"\r\n"
-                "\"S8\",\"A\",\"01\",\"80\",197.5,187.5,1950,20,30,\"cal BP\"\r\n"
-                "\"S9\",\"A\",\"01\",\"0\",97.5,97.5,150,2,12,\"cal BP\"\r\n");
+            Written({kPositionsConverted.scales,
+                     {kPositionsConverted.lines[0],
+                      {"\"S7\",\"A\",\"01\",\"31\"", "136.2", "136.2", "924,9,19,\"cal BP\""},
+                      {"\"S8\",\"A\",\"01\",\"80\"", "197.5", "187.5", "1950,20,30,\"cal BP\""},
+                      {"\"S9\",\"A\",\"01\",\"0\"", "97.5", "97.5", "150,2,12,\"cal BP\""}}},
+                    kEveryScale));
 }
 
+// The EFD is written only beside the composite depth; without it, the age
+// still comes from it.
 TEST_F(BatchConversion, CompositeDepthValues) {
   ImportAll();
-  const std::string data = "Sample,Composite depth\r\nC1,135\r\nC2,155\r\nC3,240\r\nC4,9999\r\n";
-  EXPECT_EQ(Convert(data), "\"Sample\",\"Composite depth\"," + kEfdTitle + "," + kAgeTitles +
-                               "\r\n"
-                               "\"C1\",\"135\",135,900,9,19,\"cal BP\"\r\n"
-                               "\"C2\",\"155\",150,1200,12,22,\"cal BP\"\r\n"
-                               "\"C3\",\"240\",230,2800,36,38,\"Hybrid unit\"\r\n"
-                               "\"C4\",9999,9999,9999,9999,9999,9999\r\n");
-  EXPECT_EQ(InputKind, kScaleComposite);
-  EXPECT_EQ(ToMask, 14);
-  // The EFD is written only beside the composite depth; without it, the age still comes from it.
-  EXPECT_EQ(Convert(data, [] { Untick({kScaleEfd}); }),
-            "\"Sample\",\"Composite depth\"," + kAgeTitles +
-                "\r\n\"C1\",\"135\",900,9,19,\"cal BP\"\r\n\"C2\",\"155\",1200,12,22,\"cal BP\"\r\n"
-                "\"C3\",\"240\",2800,36,38,\"Hybrid unit\"\r\n\"C4\",9999,9999,9999,9999,9999\r\n");
-  EXPECT_EQ(Convert(data, [] { Untick({kScaleAge}); }),
-            "\"Sample\",\"Composite depth\"," + kEfdTitle +
-                "\r\n\"C1\",\"135\",135\r\n\"C2\",\"155\",150\r\n\"C3\",\"240\",230\r\n"
-                "\"C4\",9999,9999\r\n");
-  EXPECT_EQ(Convert(data,
-                    [] {
-                      Untick({kScaleEfd, kScaleAge});
-                    }),
-            "\"Sample\",\"Composite depth\"\r\n\"C1\",\"135\"\r\n\"C2\",\"155\"\r\n"
-            "\"C3\",\"240\"\r\n\"C4\",9999\r\n");
-  EXPECT_TRUE(platform.messages.empty());
+  ExpectEveryChoice("Sample,Composite depth\r\nC1,135\r\nC2,155\r\nC3,240\r\nC4,9999\r\n",
+                    kScaleComposite,
+                    {{kScaleEfd, kScaleAge},
+                     {{"\"Sample\",\"Composite depth\"", kEfdTitle, kAgeTitles},
+                      {"\"C1\",\"135\"", "135", "900,9,19,\"cal BP\""},
+                      {"\"C2\",\"155\"", "150", "1200,12,22,\"cal BP\""},
+                      {"\"C3\",\"240\"", "230", "2800,36,38,\"Hybrid unit\""},
+                      {"\"C4\",9999", "9999", "9999,9999,9999,9999"}}});
 }
 
 // The first three samples of a value file are read as text with the header;
@@ -164,69 +149,44 @@ TEST_F(BatchConversion, ValueCellsKeepTheTypeTheyWereReadWith) {
   const std::string data =
       "Sample,Composite depth\r\nC1,135.0\r\nC2,9999\r\nC3,240\r\n7,155.50\r\n"
       "C5,\"135.0\"\r\nC6,9999\r\n";
-  EXPECT_EQ(Convert(data, [] { Untick({kScaleEfd}); }),
-            "\"Sample\",\"Composite depth\"," + kAgeTitles +
-                "\r\n\"C1\",\"135.0\",900,9,19,\"cal BP\"\r\n"
-                "\"C2\",\"9999\",9999,9999,9999,\"9999\"\r\n"
-                "\"C3\",\"240\",2800,36,38,\"Hybrid unit\"\r\n"
-                "7,155.5,1200,12,22,\"cal BP\"\r\n"
-                "\"C5\",\"135.0\",900,9,19,\"cal BP\"\r\n"
-                "\"C6\",9999,9999,9999,9999,9999\r\n");
+  EXPECT_EQ(Convert(data, kScaleAge), "\"Sample\",\"Composite depth\"," + kAgeTitles +
+                                          "\r\n\"C1\",\"135.0\",900,9,19,\"cal BP\"\r\n"
+                                          "\"C2\",\"9999\",9999,9999,9999,\"9999\"\r\n"
+                                          "\"C3\",\"240\",2800,36,38,\"Hybrid unit\"\r\n"
+                                          "7,155.5,1200,12,22,\"cal BP\"\r\n"
+                                          "\"C5\",\"135.0\",900,9,19,\"cal BP\"\r\n"
+                                          "\"C6\",9999,9999,9999,9999,9999\r\n");
 }
 
+// "Depth" is none of the three words: the values are taken for EFD. EFD 151
+// lies below the layer, so 10 cm come back; the junction 150 maps to the
+// layer's top.
 TEST_F(BatchConversion, EfdValuesUnderAnyOtherHeaderWord) {
   ImportAll();
-  // "Depth" is none of the three words: the values are taken for EFD. EFD
-  // 151 lies below the layer, so 10 cm come back; the junction 150 maps to
-  // the layer's top.
-  const std::string data =
-      "Sample,Depth below lake floor\r\nE1,135\r\nE2,151\r\nE3,150\r\nE4,-9999\r\n";
-  EXPECT_EQ(Convert(data, [] { Untick({kScaleAge}); }),
-            "\"Sample\",\"Depth below lake floor\"," + kCdTitle +
-                "\r\n\"E1\",\"135\",135\r\n\"E2\",\"151\",161\r\n\"E3\",\"150\",150\r\n"
-                "\"E4\",-9999,-9999\r\n");
-  EXPECT_EQ(InputKind, kScaleEfd);
-  EXPECT_EQ(ToMask, 6);
   AgePrecision = 1;
-  EXPECT_EQ(
-      Convert(data, [] { Untick({kScaleComposite}); }),
-      "\"Sample\",\"Depth below lake floor\"," + kAgeTitles +
-          "\r\n\"E1\",\"135\",900,9,19,\"cal BP\"\r\n\"E2\",\"151\",1220,12.2,22.2,\"cal BP\"\r\n"
-          "\"E3\",\"150\",1200,12,22,\"cal BP\"\r\n\"E4\",-9999,-9999,-9999,-9999,-9999\r\n");
-  EXPECT_EQ(ToMask, 12);
-  EXPECT_EQ(Convert(data,
-                    [] {
-                      Untick({kScaleComposite, kScaleAge});
-                    }),
-            "\"Sample\",\"Depth below lake floor\"\r\n\"E1\",\"135\"\r\n\"E2\",\"151\"\r\n"
-            "\"E3\",\"150\"\r\n\"E4\",-9999\r\n");
+  ExpectEveryChoice("Sample,Depth below lake floor\r\nE1,135\r\nE2,151\r\nE3,150\r\nE4,-9999\r\n",
+                    kScaleEfd,
+                    {{kScaleComposite, kScaleAge},
+                     {{"\"Sample\",\"Depth below lake floor\"", kCdTitle, kAgeTitles},
+                      {"\"E1\",\"135\"", "135", "900,9,19,\"cal BP\""},
+                      {"\"E2\",\"151\"", "161", "1220,12.2,22.2,\"cal BP\""},
+                      {"\"E3\",\"150\"", "150", "1200,12,22,\"cal BP\""},
+                      {"\"E4\",-9999", "-9999", "-9999,-9999,-9999,-9999"}}});
 }
 
+// Age 2400 lies at EFD 190 + 400 / 20 = 210, below the layer: composite 220.
 TEST_F(BatchConversion, AgeValuesComeFirstWithTheirErrors) {
   ImportAll();
-  // Age 2400 lies at EFD 190 + 400 / 20 = 210, below the layer: composite 220.
-  const std::string data = "Sample,Age (cal BP)\r\nT1,2400\r\nT2,1200\r\nT3,-9999\r\nT4,900\r\n";
-  EXPECT_EQ(Convert(data),
-            "\"Sample\",\"Age (cal BP)\",\"Age 95.4 % error (+)\",\"Age 68.2 % error (-)\","
-            "\"Age unit\"," +
-                kCdTitle + "," + kEfdTitle +
-                "\r\n"
-                "\"T1\",\"2400\",28,34,\"Hybrid unit\",220,210\r\n"
-                "\"T2\",\"1200\",12,22,\"cal BP\",150,150\r\n"
-                "\"T3\",\"-9999\",-9999,-9999,\"-9999\",-9999,\"-9999\"\r\n"
-                "\"T4\",900,9,19,\"cal BP\",135,135\r\n");
-  EXPECT_EQ(InputKind, kScaleAge);
-  const std::string ageOnly = Convert(data, [] { Untick({kScaleComposite, kScaleEfd}); });
-  EXPECT_EQ(ToMask, 8);
-  EXPECT_NE(ageOnly.find("\r\n\"T1\",\"2400\",28,34,\"Hybrid unit\"\r\n"), std::string::npos);
-  EXPECT_NE(Convert(data, [] { Untick({kScaleEfd}); })
-                .find("\r\n\"T1\",\"2400\",28,34,\"Hybrid unit\",220\r\n"),
-            std::string::npos);
-  EXPECT_EQ(ToMask, 10);
-  EXPECT_NE(Convert(data, [] { Untick({kScaleComposite}); })
-                .find("\r\n\"T1\",\"2400\",28,34,\"Hybrid unit\",210\r\n"),
-            std::string::npos);
-  EXPECT_EQ(ToMask, 12);
+  ExpectEveryChoice("Sample,Age (cal BP)\r\nT1,2400\r\nT2,1200\r\nT3,-9999\r\nT4,900\r\n",
+                    kScaleAge,
+                    {{kScaleComposite, kScaleEfd},
+                     {{"\"Sample\",\"Age (cal BP)\",\"Age 95.4 % error (+)\",\"Age 68.2 % error "
+                       "(-)\",\"Age unit\"",
+                       kCdTitle, kEfdTitle},
+                      {"\"T1\",\"2400\",28,34,\"Hybrid unit\"", "220", "210"},
+                      {"\"T2\",\"1200\",12,22,\"cal BP\"", "150", "150"},
+                      {"\"T3\",\"-9999\",-9999,-9999,\"-9999\"", "-9999", "\"-9999\""},
+                      {"\"T4\",900,9,19,\"cal BP\"", "135", "135"}}});
 }
 
 TEST_F(BatchConversion, FormOffersTheScalesTheFilesAllow) {
@@ -281,10 +241,8 @@ TEST_F(BatchConversion, ShapeIsToldByOneCell) {
   EXPECT_FALSE(frmMain->ProgressBar1.Visible);
 }
 
-TEST_F(BatchConversion, ValuesNeedTheEventList) {
-  platform.QueueFile(WriteTempFile("model_20110305.csv", ModelText(FourHoleModel())));
-  frmMain->Command1_Click();
-  ASSERT_TRUE(platform.messages.empty());
+TEST_F(BatchConversion, ValuesNeedTheEventListAndAgesTheAgeModel) {
+  ImportModel(FourHoleModel());
   frmMain->Text2.SetFocus();
   ReadDataFile("Sample,Age\r\nT1,2400\r\nT2,1200\r\nT3,900\r\n");
   EXPECT_EQ(OnlyMessage(),
@@ -292,34 +250,18 @@ TEST_F(BatchConversion, ValuesNeedTheEventList) {
             "https://www.ostraline.org/samples.");
   EXPECT_FALSE(frmConversion.IsLoaded());
   EXPECT_EQ(FocusedControl(), &frmMain->Command3);
-}
 
-TEST_F(BatchConversion, NoAgeModelNoAgeColumns) {
-  ImportModelAndEvents(kFusedLayer);
+  Restart(kFusedLayer);
   ReadDataFile(kPositions);
   EXPECT_FALSE(frmConversion->Check1(kScaleAge).Enabled);
   EXPECT_EQ(frmConversion->Check1(kScaleAge).Value, 0);
   EXPECT_FALSE(frmConversion->Option1(kScaleAge).Enabled);
   Unload("frmConversion");
-  const std::string written = Convert(kPositions);
-  EXPECT_EQ(written.substr(0, written.find("\r\n\"S2")),
-            "\"Sample\",\"Hole\",\"Section\",\"PSP\"," + kCdTitle + "," + kEfdTitle +
-                "\r\n\"S1\",\"A\",\"01\",\"30\",135,135");
+  EXPECT_EQ(Convert(kPositions), Written(kPositionsConverted, kScaleComposite | kScaleEfd));
   EXPECT_EQ(ToMask, 7);
 }
 
-TEST_F(BatchConversion, CancelledSaveLeavesTheFormOpen) {
-  ImportAll();
-  ReadDataFile(kPositions);
-  output = WriteTempFile("converted.csv", "kept\r\n");
-  platform.QueueCancel();
-  frmConversion->Command1_Click();
-  EXPECT_TRUE(platform.messages.empty());
-  EXPECT_TRUE(frmConversion.IsLoaded());
-  EXPECT_EQ(Contents(output), "kept\r\n");
-}
-
-TEST_F(BatchConversion, FailedConversionKeepsTheFileThatWasThere) {
+TEST_F(BatchConversion, FailedOrCancelledSaveKeepsTheFileThatWasThere) {
   ImportAll();
   const std::filesystem::path folder =
       std::filesystem::path(WriteTempFile("samples.csv", "")).parent_path();
@@ -330,6 +272,10 @@ TEST_F(BatchConversion, FailedConversionKeepsTheFileThatWasThere) {
   ReadDataFile(kPositions);
   output = WriteTempFile("converted.csv", "old rows\r\n");
   const auto before = filesInFolder();
+  platform.QueueCancel();
+  frmConversion->Command1_Click();
+  EXPECT_TRUE(platform.messages.empty());
+  EXPECT_TRUE(frmConversion.IsLoaded());
 
   // An age that is no number fails the first row's age, after the header.
   AgeModel(7, 2) = "n/a";

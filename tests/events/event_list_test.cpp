@@ -1,3 +1,4 @@
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -24,22 +25,22 @@ using Pairs = std::vector<std::pair<float, float>>;
 
 class EventListImport : public FreshProgram {
  protected:
-  // A model whose section 01 runs from 0 to 3000 with composite depth equal to
-  // PSP; the row L1 is no tie and gets its depth computed.
-  void ImportModel() {
-    const std::vector<ModelRow> rows = {
-        DefaultHeader(), RowA("A-01-top", "0", "0", "0"), RowA("L1", "100.125", "100", ""),
-        RowA("L2", "150", "150", "150"), RowA("A-01-bottom", "3000", "3000", "3000")};
-    platform.QueueFile(WriteTempFile("model_20110305.csv", ModelText(rows)));
-    frmMain->Command1_Click();
-    ASSERT_TRUE(platform.messages.empty());
+  // A fresh program with a model whose section 01 runs from 0 to 3000 with
+  // composite depth equal to PSP (the row L1 is no tie and gets its depth
+  // computed); then `before`, then the list through the dialog.
+  void Import(const std::vector<EventRow>& rows, const std::function<void()>& before = {}) {
+    ImportText(EventListText(rows), before);
   }
-  // A fresh program, the model, then the list through the dialog.
-  void Import(const std::vector<EventRow>& rows) { ImportText(EventListText(rows)); }
-  void ImportText(const std::string& text) {
-    ResetProgram();
-    ImportModel();
+  void ImportText(const std::string& text, const std::function<void()>& before = {}) {
+    ImportPlainModel();
+    if (before) before();
     ImportFile(WriteTempFile("events_20120417.csv", text));
+  }
+  void ImportPlainModel() {
+    ResetProgram();
+    ImportModel({DefaultHeader(), RowA("A-01-top", "0", "0", "0"), RowA("L1", "100.125", "100", ""),
+                 RowA("L2", "150", "150", "150"), RowA("A-01-bottom", "3000", "3000", "3000")});
+    ASSERT_TRUE(platform.messages.empty()) << OnlyMessage();
   }
   void ImportFile(const std::string& name) {
     platform.QueueFile(name);
@@ -50,11 +51,6 @@ class EventListImport : public FreshProgram {
     for (long i = 1; i <= MergedEventCount; ++i)
       layers.emplace_back(EventTop(1, i), EventBottom(1, i));
     return layers;
-  }
-  bool FailedWithFormatError() const {
-    return platform.messages.size() == 1 && platform.messages[0].text == "File format error." &&
-           platform.messages[0].title == "Error" &&
-           platform.messages[0].icon == MsgIcon::Exclamation;
   }
 };
 
@@ -69,10 +65,7 @@ TEST_F(EventListImport, OverlappingLayersFuseIntoTheirUnion) {
   EXPECT_EQ(Layers(), (Pairs{{10, 20}, {20, 25}}));
 
   // Listed bottom-up, and with "Intersection" chosen: still sorted, still the union.
-  ResetProgram();
-  ImportModel();
-  frmMain->Option3(0).Value = true;
-  ImportFile(WriteTempFile("e.csv", EventListText({Layer("19", "25"), Layer("10", "20")})));
+  Import({Layer("19", "25"), Layer("10", "20")}, [] { frmMain->Option3(0).Value = true; });
   EXPECT_EQ(Layers(), (Pairs{{10, 25}}));
 
   // The fused layer meets its new neighbour: a chain collapses into one.
@@ -81,9 +74,7 @@ TEST_F(EventListImport, OverlappingLayersFuseIntoTheirUnion) {
   EXPECT_EQ(EventCount, 4);
   EXPECT_EQ(EventTop(1, 3), -9999);
   EXPECT_EQ(EventBottom(1, 4), -9999);
-}
 
-TEST_F(EventListImport, EqualTopsKeepTheFileOrder) {
   // Were the later of the two equal tops taken first, 10-12 would swallow the
   // empty layer 10-10 and two layers would remain.
   Import({Layer("50", "60"), Layer("10", "10"), Layer("10", "12")});
@@ -116,13 +107,11 @@ TEST_F(EventListImport, UnknownSectionSortsToTheEnd) {
 }
 
 TEST_F(EventListImport, GoodImportOpensTheNextSteps) {
-  ResetProgram();
-  ImportModel();
-  const std::string efdBefore = frmMain->Text3.Text;
-  frmMain->Label1(8).Caption = "30";
-  EXPECT_EQ(frmMain->Text3.Text.Get(), efdBefore);  // no list yet: nothing follows
-  ImportFile(
-      WriteTempFile("events_20120417.csv", EventListText({Layer("10", "12"), Layer("20", "25")})));
+  Import({Layer("10", "12"), Layer("20", "25")}, [] {
+    const std::string efdBefore = frmMain->Text3.Text;
+    frmMain->Label1(8).Caption = "30";
+    EXPECT_EQ(frmMain->Text3.Text.Get(), efdBefore);  // no list yet: nothing follows
+  });
   ASSERT_TRUE(platform.messages.empty());
   EXPECT_EQ(platform.dialogs.back().filter, "DataFile(*.csv)|*.csv");
   EXPECT_EQ(EventListVersion, "17 Apr. 2012");
@@ -142,10 +131,7 @@ TEST_F(EventListImport, GoodImportOpensTheNextSteps) {
   EXPECT_EQ(form.Text3.Text.Get(), "23");
 
   // "Convert from data file" shuts the EFD controls.
-  ResetProgram();
-  ImportModel();
-  frmMain->Option1(2).Value = true;
-  ImportFile(WriteTempFile("e.csv", EventListText({Layer("10", "12"), Layer("20", "25")})));
+  Import({Layer("10", "12"), Layer("20", "25")}, [] { frmMain->Option1(2).Value = true; });
   EXPECT_FALSE(frmMain->Text3.Enabled);
   EXPECT_FALSE(frmMain->Label1(10).Enabled);
 }
@@ -186,8 +172,7 @@ TEST_F(EventListImport, FailuresResetTheCountsAndLeaveTheButton) {
 
   // Cancelling and a file that cannot be opened show nothing.
   platform.messages.clear();
-  ResetProgram();
-  ImportModel();
+  ImportPlainModel();
   platform.QueueCancel();
   frmMain->Command3.Click();
   ImportFile("/nonexistent/events.csv");
@@ -196,7 +181,7 @@ TEST_F(EventListImport, FailuresResetTheCountsAndLeaveTheButton) {
   EXPECT_TRUE(frmMain->Command3.Enabled);
 }
 
-TEST_F(EventListImport, HeaderOnlyLeavesDepthsAsTheyAre) {
+TEST_F(EventListImport, EventFreeDepthsOfTheModelWithoutAndWithLayers) {
   ImportText(EventListText(std::vector<EventRow>{}));
   EXPECT_TRUE(platform.messages.empty());
   EXPECT_EQ(EventCount, 0);
@@ -207,16 +192,11 @@ TEST_F(EventListImport, HeaderOnlyLeavesDepthsAsTheyAre) {
   EXPECT_EQ(TieCell(2, 3), "150");
   frmMain->Label1(8).Caption = "7.125";
   EXPECT_EQ(frmMain->Text3.Text.Get(), "7.12");
-}
 
-TEST_F(EventListImport, EventFreeDepthOfTwoImportedLayers) {
+  // Two imported layers.
   Import({Layer("20", "25"), Layer("10", "12")});
   ASSERT_TRUE(platform.messages.empty());
-  const std::pair<float, double> toEfd[] = {{5, 5},   {10, 10}, {11, 10}, {12, 10},
-                                            {15, 13}, {22, 18}, {30, 23}};
-  for (auto [cd, efd] : toEfd) EXPECT_EQ(CDToEFD(cd).ToDouble(), efd) << cd;
-  const std::pair<float, double> toCd[] = {{5, 5}, {10, 10}, {13, 15}, {18, 20}, {23, 25}};
-  for (auto [efd, cd] : toCd) EXPECT_EQ(EFDToCD(efd).ToDouble(), cd) << efd;
+  EXPECT_EQ(CDToEFD(15).ToDouble(), 13);
   // The stored EFD of the model and of the layers.
   EXPECT_EQ(ModelCell(2, 1, 2, 3), "143");
   EXPECT_EQ(TieCell(2, 3), "143");
@@ -237,6 +217,69 @@ TEST_F(EventListImport, EventFreeDepthOfTwoImportedLayers) {
   Import({Layer("10", "12"), Layer("20", "25"), Layer("21", "24")});
   EXPECT_EQ(MergedEventCount, 2);
   EXPECT_EQ(EFDToCD(23).ToDouble(), 30);
+}
+
+class EventFreeDepth : public FreshProgram {
+ protected:
+  // Merged layers as the import leaves them; rows past the merged count hold -9999.
+  void Layers(std::initializer_list<std::pair<float, float>> layers, long rowsRead) {
+    EventCount = rowsRead;
+    MergedEventCount = static_cast<long>(layers.size());
+    EventTop.Dim({{0, 3}, {0, rowsRead}});
+    EventBottom.Dim({{0, 3}, {0, rowsRead}});
+    long i = 0;
+    for (auto [top, bottom] : layers) {
+      ++i;
+      EventTop(1, i) = top;
+      EventBottom(1, i) = bottom;
+    }
+    for (++i; i <= rowsRead; ++i) {
+      EventTop(1, i) = -9999;
+      EventBottom(1, i) = -9999;
+    }
+  }
+  double ToEfd(float cd) { return CDToEFD(cd).ToDouble(); }
+  double ToCd(float efd) { return EFDToCD(efd).ToDouble(); }
+};
+
+TEST_F(EventFreeDepth, EfdCutsTheLayersOutAndTheWayBackLeavesTheLastOutWithoutAMerge) {
+  Layers({{10, 12}, {20, 25}}, 2);
+  EXPECT_EQ(ToCd(5), 5);
+  EXPECT_EQ(ToCd(10), 10);  // the junction maps to the top
+  EXPECT_EQ(ToCd(13), 15);
+  EXPECT_EQ(ToCd(18), 20);
+  EXPECT_EQ(ToCd(23), 25);  // not 30: not the inverse here
+  EXPECT_EQ(ToCd(9999), 9999);
+  EXPECT_EQ(ToCd(-9999), -9999);
+
+  // Three rows read, one merge: the last real layer counts.
+  Layers({{10, 12}, {20, 25}}, 3);
+  EXPECT_EQ(ToCd(23), 30);
+
+  // A refused age import takes the layers out.
+  Layers({{10, 12}, {20, 25}}, 2);
+  EventCount = -9999;
+  MergedEventCount = -9999;
+  for (float x : {5.0f, 11.0f, 30.006f}) {
+    EXPECT_EQ(ToEfd(x), ToCd(x));
+    EXPECT_EQ(ToEfd(x), Round(x, 2));
+  }
+  // A header-only list: the depth rounded, nothing more.
+  EventCount = 0;
+  EXPECT_EQ(ToEfd(12.345f), Round(12.345f, 2));
+
+  // Composite depth to EFD cuts the layers out.
+  Layers({{10, 12}, {20, 25}}, 2);
+  EXPECT_EQ(ToEfd(5), 5);
+  EXPECT_EQ(ToEfd(10), 10);
+  EXPECT_EQ(ToEfd(11), 10);
+  EXPECT_EQ(ToEfd(12), 10);
+  EXPECT_EQ(ToEfd(15), 13);
+  EXPECT_EQ(ToEfd(22), 18);
+  EXPECT_EQ(ToEfd(30), 23);
+  EXPECT_EQ(ToEfd(9999), 9999 - 7);
+  DepthPrecision = 1;
+  EXPECT_EQ(ToEfd(15.25f), 13.2);  // half to even at one digit
 }
 
 }  // namespace

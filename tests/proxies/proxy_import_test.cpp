@@ -1,8 +1,17 @@
+#include <gtest/gtest.h>
+
 #include <cstdio>
 #include <fstream>
 #include <string>
 #include <vector>
 
+#include "core/project_state.h"
+#include "display/display_state.h"
+#include "events/age_lookup.h"
+#include "events/event_free_depth.h"
+#include "events/event_state.h"
+#include "forms/frm2_main.h"
+#include "forms/frm_export.h"
 #include "forms/frm_main.h"
 #include "forms/frm_select.h"
 #include "proxies/proxy_layout.h"
@@ -37,6 +46,18 @@ class ProxyImport : public AgeProgram {
       return std::to_string(100 + i) + "," + std::to_string(i) + "," + std::to_string(2 * i);
     });
   }
+  // Whether the record has labels and a trinity, its data columns and rows.
+  static std::string Shape(int p) {
+    return std::string(ProxyHasLabel(p) ? "label, " : "") +
+           (ProxyHasTrinity(p) ? "trinity, " : "position, ") + std::to_string(ProxyColumnCount(p)) +
+           " columns, " + std::to_string(ProxyRowCount(p)) + " rows" +
+           (ProxyLoaded(p) ? "" : ", not loaded");
+  }
+  // The three cells of a row of the preview on frmSelect.
+  static std::string Preview(int row) {
+    return frmSelect->Text1(row).Text.Get() + "|" + frmSelect->Text2(row).Text.Get() + "|" +
+           frmSelect->Text3(row).Text.Get();
+  }
   static ProxyWork Recognised(const std::string& text) {
     FieldReader file(text);
     ProxyWork work;
@@ -51,11 +72,7 @@ TEST_F(ProxyImport, FourLayoutsFromTheirLeadColumns) {
   FrmMain& form = *frmMain;
   EXPECT_TRUE(platform.messages.empty()) << OnlyMessage();
   EXPECT_EQ(ProxyFileName(0), "Lake cores");
-  EXPECT_FALSE(ProxyHasLabel(0));
-  EXPECT_FALSE(ProxyHasTrinity(0));
-  EXPECT_EQ(ProxyColumnCount(0), 2);
-  EXPECT_EQ(ProxyRowCount(0), 9);
-  EXPECT_TRUE(ProxyLoaded(0));
+  EXPECT_EQ(Shape(0), "position, 2 columns, 9 rows");
   EXPECT_FLOAT_EQ(ProxyDepth(0)(1, 9), 109);
   EXPECT_FLOAT_EQ(ProxyDepth(0)(2, 2), 102);  // the EFD pass, without event layers
   EXPECT_FLOAT_EQ(ProxyValue(0)(9, 2), 18);
@@ -67,10 +84,8 @@ TEST_F(ProxyImport, FourLayoutsFromTheirLeadColumns) {
   EXPECT_FALSE(form.Enabled);
   ASSERT_TRUE(frmSelect->Visible);
   EXPECT_EQ(frmSelect->Label1.Caption.Get(), "0");
-  EXPECT_EQ(frmSelect->Text1(0).Text.Get(), "Depth");
-  EXPECT_EQ(frmSelect->Text1(8).Text.Get(), "108");  // depth, first, second column
-  EXPECT_EQ(frmSelect->Text2(8).Text.Get(), "8");
-  EXPECT_EQ(frmSelect->Text3(8).Text.Get(), "16");
+  EXPECT_EQ(Preview(0), "Depth|Ti|Ca");
+  EXPECT_EQ(Preview(8), "108|8|16");  // depth, first, second column
   frmSelect->Command1_Click();
   ASSERT_TRUE(form.Enabled);
 
@@ -79,23 +94,16 @@ TEST_F(ProxyImport, FourLayoutsFromTheirLeadColumns) {
            return "S" + std::to_string(i) + "," + std::to_string(200 + i) + ",1," +
                   std::to_string(i);
          }));
-  EXPECT_TRUE(ProxyHasLabel(1));
-  EXPECT_FALSE(ProxyHasTrinity(1));
-  EXPECT_EQ(ProxyColumnCount(1), 2);
+  EXPECT_EQ(Shape(1), "label, position, 2 columns, 8 rows");
   EXPECT_EQ(ProxyLabel(1)(8), "S8");
-  EXPECT_EQ(frmSelect->Text1(3).Text.Get(), "S3");
-  EXPECT_EQ(frmSelect->Text2(3).Text.Get(), "203");
-  EXPECT_EQ(frmSelect->Text3(3).Text.Get(), "3");
+  EXPECT_EQ(Preview(3), "S3|203|3");
   frmSelect->Command2_Click();
 
   // Bore hole, section and PSP: the position is known, the panel drawn at once.
-  Import(2, Record("Bore hole,Section,PSP (cm),Density", 8, [](int i) {
-           return "A,1," + std::to_string(10 + 5 * i) + ",1.5";
-         }));
+  Import(2, Record("Bore hole,Section,PSP (cm),Density", 8,
+                   [](int i) { return "A,1," + std::to_string(10 + 5 * i) + ",1.5"; }));
   EXPECT_TRUE(platform.messages.empty()) << OnlyMessage();
-  EXPECT_FALSE(ProxyHasLabel(2));
-  EXPECT_TRUE(ProxyHasTrinity(2));
-  EXPECT_EQ(ProxyColumnCount(2), 1);
+  EXPECT_EQ(Shape(2), "trinity, 1 columns, 8 rows");
   EXPECT_FLOAT_EQ(ProxyDepth(2)(1, 4), 135);  // PSP 30
   EXPECT_EQ(ProxyLabel(2)(4), "135");
   EXPECT_EQ(form.Combo4(2).List(), (std::vector<std::string>{"Density", "1"}));
@@ -111,9 +119,7 @@ TEST_F(ProxyImport, FourLayoutsFromTheirLeadColumns) {
                   std::to_string(10 + 5 * i) + ",30,60";
          }));
   EXPECT_TRUE(platform.messages.empty()) << OnlyMessage();
-  EXPECT_TRUE(ProxyHasLabel(3));
-  EXPECT_TRUE(ProxyHasTrinity(3));
-  EXPECT_EQ(ProxyColumnCount(3), 2);
+  EXPECT_EQ(Shape(3), "label, trinity, 2 columns, 8 rows");
   EXPECT_EQ(ProxyLabel(3)(4), "G4");
   EXPECT_FLOAT_EQ(ProxyDepth(3)(1, 4), 135);
   EXPECT_FLOAT_EQ(ProxyDepth(3)(1, 5), 9999);
@@ -121,7 +127,7 @@ TEST_F(ProxyImport, FourLayoutsFromTheirLeadColumns) {
 
 // The header word test decides between the lead columns label and position
 // and those of a hole's section and PSP, in exact case.
-TEST_F(ProxyImport, HeaderWordsNameTheTrinity) {
+TEST_F(ProxyImport, HeaderWordsAndTheFirstPlainNumberDecideTheLayout) {
   const auto layoutOf = [](const std::string& header) {
     return Recognised(header + "\r\nS1,100,1,2\r\nS2,110,3,4\r\n").layout;
   };
@@ -134,11 +140,9 @@ TEST_F(ProxyImport, HeaderWordsNameTheTrinity) {
         "Sample,Bore hole,Core section,PSP (cm)"}) {
     EXPECT_EQ(layoutOf(header), ProxyLayout::L3) << header;
   }
-}
 
-// The scan stops only at a plain number; each of these files is read with
-// another layout or column count than its writer meant.
-TEST_F(ProxyImport, LayoutsThatGoWrongOnPurpose) {
+  // The scan stops only at a plain number; each of these files is read with
+  // another layout or column count than its writer meant.
   // The first depth written 12.50: the scan runs on to the first value.
   ProxyWork work = Recognised("Depth,Ti\r\n12.50,3\r\n13,4\r\n14,5\r\n");
   EXPECT_EQ(work.layout, ProxyLayout::L1);
@@ -189,8 +193,7 @@ TEST_F(ProxyImport, FailuresAndWhatTheyLeave) {
   platform.messages.clear();
   Import(0, Positions(7), "short.csv");
   EXPECT_EQ(OnlyMessage(), "Error: File format error.");
-  EXPECT_TRUE(ProxyLoaded(0));
-  EXPECT_EQ(ProxyRowCount(0), 7);
+  EXPECT_EQ(Shape(0), "position, 2 columns, 7 rows");
   EXPECT_FALSE(frmMain->Enabled);
   EXPECT_FALSE(frmSelect->Visible);
 
@@ -208,14 +211,191 @@ TEST_F(ProxyImport, FailuresAndWhatTheyLeave) {
 }
 
 TEST_F(ProxyImport, TheMarkerOfTheFileNameGoesWithItsSeparator) {
-  Import(0, Positions(8), "Alpha for OL.csv");
-  EXPECT_EQ(ProxyFileName(0), "Alpha");
+  for (auto [file, name] : {std::pair{"Alpha for OL.csv", "Alpha"},
+                            {"Alpha_for_OL.csv", "Alpha"},
+                            {"Alpha for OL2.csv", "Alpha for OL2"}}) {
+    Import(0, Positions(8), file);
+    EXPECT_EQ(ProxyFileName(0), name);
+    frmSelect->Command2_Click();
+  }
+}
+
+constexpr long kGreen = RGB(0, 170, 0);
+
+// The end of an import whose rows hold one plain position (frmSelect), and
+// the export dialog that only says it is not built (frmExport).
+class AxisSelection : public AgeProgram {
+ protected:
+  // Panel p as the import leaves it when it asks: one data column, the
+  // positions on the composite scale, the main form disabled and the dialog
+  // told the panel.
+  static void LoadRecord(int p, const std::vector<float>& positions) {
+    const long rows = static_cast<long>(positions.size());
+    ProxyRowCount(p) = rows;
+    ProxyColumnCount(p) = 1;
+    ProxyLabel(p).DimUpper(rows);
+    ProxyDepth(p).DimUpper(3, rows);
+    ProxyHeader(p).DimUpper(1);
+    ProxyValue(p).DimUpper(rows, 1);
+    for (long i = 1; i <= rows; ++i) {
+      ProxyDepth(p)(1, i) = positions[i - 1];
+      ProxyValue(p)(i, 1) = static_cast<float>(i);
+    }
+    ProxyLoaded(p) = true;
+    PlotScale = DepthAxis;
+    frmMain->Enabled = false;
+    frmSelect->Label1.Caption = std::to_string(p);
+    frmSelect->Show();
+  }
+
+  static std::vector<float> Positions(int p) {
+    std::vector<float> out;
+    for (long i = 1; i <= ProxyRowCount(p); ++i) out.push_back(ProxyDepth(p)(1, i));
+    return out;
+  }
+
+  static void ExpectBackOnMainForm() {
+    EXPECT_TRUE(frmMain->Enabled);
+    EXPECT_FALSE(frmMain->ProgressBar1.Visible);
+    EXPECT_EQ(frmMain->ProgressBar1.Value.Get(), 0);
+    EXPECT_FALSE(frmSelect.IsLoaded());
+  }
+};
+
+TEST_F(AxisSelection, AgeOptionsNeedAnAgeModelAndCellsStandInRows) {
+  platform.SetMousePointer(11);
+  frmSelect->Show();
+  EXPECT_EQ(platform.MousePointer(), 0);
+  EXPECT_TRUE(frmSelect->Option1(0).Value);
+  EXPECT_FALSE(frmSelect->Option1(1).Enabled);
+  EXPECT_FALSE(frmSelect->Option1(2).Enabled);
+  for (int row = 1; row <= 8; ++row) {
+    SCOPED_TRACE(row);
+    const float top = frmSelect->Text1(0).Top + 225.0f * row;
+    EXPECT_FLOAT_EQ(frmSelect->Text1(row).Top, top);
+    EXPECT_FLOAT_EQ(frmSelect->Text2(row).Top, top);
+    EXPECT_FLOAT_EQ(frmSelect->Text3(row).Top, top);
+  }
+
+  // Without a model the main form's depth box is shut: the way back must
+  // not try to give it the focus.
+  LoadRecord(0, {10, 20, 30});
   frmSelect->Command2_Click();
-  Import(0, Positions(8), "Alpha_for_OL.csv");
-  EXPECT_EQ(ProxyFileName(0), "Alpha");
+  ExpectBackOnMainForm();
+  EXPECT_NE(FocusedControl(), &frmMain->Text2);
+
+  ImportAll();
+  EXPECT_TRUE(frmSelect->Option1(1).Enabled);
+  EXPECT_TRUE(frmSelect->Option1(2).Enabled);
+}
+
+// With the ages of ImportAll, age 1500 is EFD 165 and composite 175.
+TEST_F(AxisSelection, OkTurnsThePositionsIntoCompositeDepthAndDrawsCancelKeepsThem) {
+  ImportAll();
+  struct Case {
+    int option;
+    std::vector<float> file;
+    std::vector<float> depths;
+  };
+  const std::vector<Case> cases = {
+      {0, {1000, 1500, 2000}, {1000, 1500, 2000}},
+      {1, {1000, 1500, 2000, 1234}, {140, 175, 200, -1}},
+      {2, {1, 1.5f, 2, 1.234f}, {140, 175, 200, -1}},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.option);
+    PictureBox& panel = frmMain->Picture1(2);
+    panel.BackColor = RGB(200, 200, 200);
+    LoadRecord(2, c.file);
+    frmSelect->Option1(c.option).Value = true;
+    frmSelect->Command1_Click();
+
+    std::vector<float> expected = c.depths;
+    // Off the control points the lookups decide; both results are Singles.
+    if (expected.back() < 0) {
+      const float age = c.option == 2 ? c.file.back() * 1000 : c.file.back();
+      expected.back() = EFDToCD(GetEFDFromAge(age).ToSingle()).ToSingle();
+      EXPECT_GT(expected.back(), 160);
+      EXPECT_LT(expected.back(), 200);
+    }
+    EXPECT_EQ(Positions(2), expected);
+    EXPECT_TRUE(ProxyLoaded(2));
+    EXPECT_EQ(frmMain->ProgressBar1.Max.Get(), static_cast<float>(c.file.size()));
+
+    EXPECT_EQ(panel.BackColor.Get(), kWhite);
+    // Drawn last, over the record.
+    const Picture shown = panel.Image();
+    ASSERT_FALSE(shown.ops.empty());
+    const DrawOp& line = shown.ops.back();
+    EXPECT_EQ(line.kind, DrawKind::Line);
+    EXPECT_EQ(line.colour, kGreen);
+    EXPECT_FLOAT_EQ(line.ux1, 0);
+    EXPECT_FLOAT_EQ(line.ux2, 7.6f);
+    EXPECT_FLOAT_EQ(line.uy1, panel.ScaleTop + ViewSpan / 2.0f);
+    EXPECT_FLOAT_EQ(line.uy2, line.uy1);
+
+    ExpectBackOnMainForm();
+    EXPECT_EQ(FocusedControl(), &frmMain->Text2);
+    panel.Cls();
+    panel.SetPicture(Picture{});
+  }
+
+  // Cancel keeps the file's numbers and draws nothing.
+  LoadRecord(1, {1000, 1500, 2000});
+  frmSelect->Option1(1).Value = true;
+  const unsigned long revision = frmMain->Picture1(1).Revision();
   frmSelect->Command2_Click();
-  Import(0, Positions(8), "Alpha for OL2.csv");
-  EXPECT_EQ(ProxyFileName(0), "Alpha for OL2");
+  EXPECT_EQ(Positions(1), (std::vector<float>{1000, 1500, 2000}));
+  EXPECT_TRUE(ProxyLoaded(1));
+  EXPECT_EQ(frmMain->Picture1(1).Revision(), revision);
+  ExpectBackOnMainForm();
+  EXPECT_EQ(FocusedControl(), &frmMain->Text2);
+}
+
+TEST_F(AxisSelection, CellsCanBeLookedAtButNotEdited) {
+  FrmSelect& form = *frmSelect;
+  form.Text1(0).Text = "Composite depth";
+  form.Text3(0).Text = "A header field far too long for its cell";
+  form.Text3(4).Text = "12.5";
+
+  form.Text2(4).MouseDown(1, 0, 10, 10);
+  EXPECT_EQ(FocusedControl(), &form.Command1);
+
+  form.Text3(0).MouseMove(0, 0, 10, 10);
+  EXPECT_EQ(form.Text3(0).ToolTipText.Get(), "A header field far too long for its cell");
+  EXPECT_EQ(form.Text1(0).ToolTipText.Get(), "");
+  form.Text3(4).MouseMove(0, 0, 10, 10);
+  EXPECT_EQ(form.Text3(4).ToolTipText.Get(), "");
+
+  for (auto move : {+[] { frmSelect->Form_MouseMove(0, 0, 100, 100); },
+                    +[] { frmSelect->Frame1.MouseMove(0, 0, 100, 100); }}) {
+    platform.SetMousePointer(2);
+    move();
+    EXPECT_EQ(platform.MousePointer(), 0);
+  }
+}
+
+TEST_F(AxisSelection, ExportSaysItIsNotBuiltAndGivesTheMainFormsBack) {
+  frmMain->Enabled = false;
+  frm2Main->Enabled = false;
+  frmExport->Label1.Caption = "3";
+  frmExport->Command1.Click();
+  ASSERT_EQ(platform.messages.size(), 1u);
+  EXPECT_EQ(platform.messages[0].text, "Sorry, this function is under construction.");
+  EXPECT_EQ(platform.messages[0].title, "Ostraline");
+  EXPECT_EQ(platform.messages[0].icon, MsgIcon::None);
+  EXPECT_TRUE(frmMain->Enabled);
+  EXPECT_TRUE(frm2Main->Enabled);
+  EXPECT_FALSE(frmExport.IsLoaded());
+
+  // Closing the dialog gives the forms back too, and loads no Duo form.
+  frm2Main.Unload();
+  frmMain->Enabled = false;
+  frmExport->Label1.Caption = "0";
+  frmExport.Unload();
+  EXPECT_TRUE(frmMain->Enabled);
+  EXPECT_FALSE(frm2Main.IsLoaded());
+  EXPECT_EQ(platform.messages.size(), 1u);
 }
 
 }  // namespace

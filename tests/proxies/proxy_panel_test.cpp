@@ -83,10 +83,10 @@ TEST_F(ProxyPanel, LimitsFromTheDataUnlessTyped) {
   EXPECT_EQ(Limits(), "10 .. 80");
   // Flipping swaps the limits; twice gives the first picture back.
   const std::vector<DrawOp> before = frmMain->Picture1(0).BaseOps();
-  frmMain->mnuFlipH_Click(0);
+  frmMain->mnuFlipH(0).Click();
   EXPECT_EQ(Limits(), "80 .. 10");
   EXPECT_FLOAT_EQ(frmMain->Picture1(0).ScaleWidth, -70);
-  frmMain->mnuFlipH_Click(0);
+  frmMain->mnuFlipH(0).Click();
   const std::vector<DrawOp>& after = frmMain->Picture1(0).BaseOps();
   ASSERT_EQ(after.size(), before.size());
   for (std::size_t i = 0; i < after.size(); ++i) {

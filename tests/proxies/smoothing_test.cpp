@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <array>
 #include <functional>
 #include <limits>
 #include <optional>
@@ -11,6 +12,7 @@
 #include "forms/frm_main.h"
 #include "proxies/proxy_records.h"
 #include "proxies/smoothing.h"
+#include "support/failures.h"
 #include "support/fresh_program.h"
 
 namespace ostraline {
@@ -19,15 +21,6 @@ namespace {
 constexpr long kRed = 255;
 using Smoother = void (*)(int, long, long);
 constexpr long kNothingHidden = std::numeric_limits<long>::max();
-
-std::optional<FailureKind> FailureOf(const std::function<void()>& run) {
-  try {
-    run();
-  } catch (const RuntimeFailure& failure) {
-    return failure.Kind();
-  }
-  return std::nullopt;
-}
 
 class Smoothing : public FreshProgram {
  protected:
@@ -69,6 +62,12 @@ class Smoothing : public FreshProgram {
     }
     return red;
   }
+  // The ends of each drawn segment in the panel's scale.
+  static std::vector<std::array<float, 4>> Ends(int p) {
+    std::vector<std::array<float, 4>> ends;
+    for (const DrawOp& op : Segments(p)) ends.push_back({op.ux1, op.uy1, op.ux2, op.uy2});
+    return ends;
+  }
   // The rows i of the drawn segments, from the first mean of a linear record.
   static std::set<long> RowsDrawn(int p) {
     std::set<long> rows;
@@ -84,27 +83,19 @@ TEST_F(Smoothing, GuardsAndTableEndsDecideWhetherAnOverlayIsDrawn) {
     bool fails;
     std::size_t segments;
   };
-  const Case cases[] = {
-      // 208 rows pass the guard, then the first pass reads row 209.
-      {SmoothProxy208, 207, false, 0},
-      {SmoothProxy208, 208, true, 0},
-      {SmoothProxy208, 209, false, 1},
-      {SmoothProxy208, 210, false, 1},
-      {SmoothProxy208, 211, false, 2},
-      {SmoothProxy11, 10, false, 0},
-      {SmoothProxy11, 11, true, 0},
-      {SmoothProxy11, 12, false, 1},
-      // No guard at all for the small windows.
-      {SmoothProxy5, 5, true, 0},
-      {SmoothProxy5, 6, false, 1},
-      {SmoothProxy3, 3, true, 0},
-      {SmoothProxy3, 4, false, 1},
-      {SmoothProxy3, 30, false, 26},
-  };
+  // 208 rows pass the guard of the widest window, then its first pass reads
+  // row 209; the small windows have no guard at all.
+  const Case cases[] = {{SmoothProxy208, 207, false, 0}, {SmoothProxy208, 208, true, 0},
+                        {SmoothProxy208, 209, false, 1}, {SmoothProxy208, 210, false, 1},
+                        {SmoothProxy208, 211, false, 2}, {SmoothProxy11, 10, false, 0},
+                        {SmoothProxy11, 11, true, 0},    {SmoothProxy11, 12, false, 1},
+                        {SmoothProxy5, 5, true, 0},      {SmoothProxy5, 6, false, 1},
+                        {SmoothProxy3, 3, true, 0},      {SmoothProxy3, 4, false, 1},
+                        {SmoothProxy3, 30, false, 26}};
   for (const Case& c : cases) {
     SCOPED_TRACE(testing::Message() << c.rows << " rows, case " << (&c - cases));
     LoadLinear(2, c.rows);
-    const std::optional<FailureKind> failure = FailureOf([&] { c.smooth(2, 0, kNothingHidden); });
+    const auto failure = FailureOf([&] { c.smooth(2, 0, kNothingHidden); });
     EXPECT_EQ(failure, c.fails ? std::optional(FailureKind::SubscriptOutOfRange) : std::nullopt);
     EXPECT_EQ(Segments(2).size(), c.segments);
     for (const DrawOp& op : Segments(2)) EXPECT_EQ(op.drawWidth, 2);
@@ -116,12 +107,7 @@ TEST_F(Smoothing, GuardsAndTableEndsDecideWhetherAnOverlayIsDrawn) {
   // The even window is centred half a row above i; the last row enters no mean.
   LoadLinear(2, 209);
   SmoothProxy208(2, 0);
-  ASSERT_EQ(Segments(2).size(), 1u);
-  const DrawOp only = Segments(2)[0];
-  EXPECT_EQ(only.ux1, 104.5f);
-  EXPECT_EQ(only.uy1, 209.0f);
-  EXPECT_EQ(only.ux2, 105.5f);
-  EXPECT_EQ(only.uy2, 211.0f);
+  EXPECT_EQ(Ends(2), (std::vector<std::array<float, 4>>{{104.5f, 209, 105.5f, 211}}));
   LoadLinear(2, 30);
   SmoothProxy3(2, 0);
   EXPECT_EQ(Segments(2).front().ux1, 2.0f);
@@ -259,18 +245,11 @@ TEST_F(Smoothing, LeavingOutRowsBelowTheViewChangesNothingDrawn) {
     for (long first : {0L, 120L}) {
       panel.Cls();
       smooth(3, first, rows + 1);
-      const std::vector<DrawOp> plain = Segments(3);
+      const auto plain = Ends(3);
       panel.Cls();
       smooth(3, first, hidden);
-      const std::vector<DrawOp> shortened = Segments(3);
       ASSERT_FALSE(plain.empty());
-      ASSERT_EQ(shortened.size(), plain.size());
-      for (std::size_t k = 0; k < plain.size(); ++k) {
-        EXPECT_EQ(shortened[k].ux1, plain[k].ux1);
-        EXPECT_EQ(shortened[k].uy1, plain[k].uy1);
-        EXPECT_EQ(shortened[k].ux2, plain[k].ux2);
-        EXPECT_EQ(shortened[k].uy2, plain[k].uy2);
-      }
+      EXPECT_EQ(Ends(3), plain);
     }
     // The first pass runs whatever lies below the view, and fails past the end.
     EXPECT_EQ(FailureOf([&] { smooth(3, rows - 1, hidden); }), FailureKind::SubscriptOutOfRange);
@@ -279,7 +258,7 @@ TEST_F(Smoothing, LeavingOutRowsBelowTheViewChangesNothingDrawn) {
 
 using PanelMenus = FreshProgram;
 
-TEST_F(PanelMenus, OneSmoothingEntryAtATimeOnEachPanel) {
+TEST_F(PanelMenus, OneSmoothingEntryAtATimeOnEachPanelAndTheirCheckMarks) {
   FrmMain& form = *frmMain;
   auto checked = [&form](int p) {
     return std::vector<bool>{form.mnuFlat3_(p).Checked, form.mnuFlat5_(p).Checked,
@@ -294,19 +273,8 @@ TEST_F(PanelMenus, OneSmoothingEntryAtATimeOnEachPanel) {
   EXPECT_EQ(checked(2), (std::vector<bool>{false, false, false, true}));
   form.mnuFlat5_(1).Click();
   EXPECT_EQ(checked(1), (std::vector<bool>{false, false, false, false}));
-}
 
-TEST_F(PanelMenus, FlipAndTheCheckMarks) {
-  FrmMain& form = *frmMain;
-  form.Text5(2).Text = "-1.5";
-  form.Text6(2).Text = "40";
-  form.mnuFlipH(2).Click();
-  EXPECT_EQ(form.Text5(2).Text.Get(), "40");
-  EXPECT_EQ(form.Text6(2).Text.Get(), "-1.5");
-  form.mnuFlipH(2).Click();
-  EXPECT_EQ(form.Text5(2).Text.Get(), "-1.5");
-  EXPECT_EQ(form.Text6(2).Text.Get(), "40");
-
+  // The drawing entries' check marks.
   form.mnuLine(3).Click();
   form.mnuMarker(3).Click();
   form.mnuMulti_0.Click();

@@ -8,18 +8,12 @@
 #include <vector>
 
 #include "runtime/failure.h"
+#include "support/failures.h"
 
 namespace ostraline {
 namespace {
 
-bool FailsPastEnd(auto statement) {
-  try {
-    statement();
-  } catch (const RuntimeFailure& failure) {
-    return failure.Kind() == FailureKind::InputPastEnd;
-  }
-  return false;
-}
+constexpr std::optional<FailureKind> kPastEnd = FailureKind::InputPastEnd;
 
 // Reads rows of the given number of text fields while the end-of-file test
 // between rows allows, as every import does.
@@ -34,60 +28,49 @@ std::vector<std::vector<std::string>> ReadRows(const std::string& content, int f
 }
 
 using Rows = std::vector<std::vector<std::string>>;
+using Texts = std::vector<std::string>;
+
+// Every field of the content read by `read` until the end-of-file test says so.
+template <class T>
+std::vector<T> ReadAll(const std::string& content, T (FieldReader::*read)()) {
+  FieldReader reader(content);
+  std::vector<T> fields;
+  while (!reader.Eof()) fields.push_back((reader.*read)());
+  return fields;
+}
+
+// Every field of the content read as a variant, as its kind and its text.
+Texts Variants(const std::string& content) {
+  Texts described;
+  for (const Variant& value : ReadAll(content, &FieldReader::ReadVariant)) {
+    described.push_back(value.IsEmpty() ? "empty"
+                                        : (value.IsText() ? "text " : "number ") + value.ToText());
+  }
+  return described;
+}
 
 TEST(FieldReaderTest, quotedFieldsHoldCommasAndLineEnds) {
-  FieldReader reader("\"a,b\",\"line\r\nbreak\",\"x\ny\"\r\n\"\",\"q\"  ,z\n");
-  EXPECT_EQ(reader.ReadText(), "a,b");
-  EXPECT_EQ(reader.ReadText(), "line\r\nbreak");
-  EXPECT_EQ(reader.ReadText(), "x\ny");
-  EXPECT_EQ(reader.ReadText(), "");
-  EXPECT_EQ(reader.ReadText(), "q");
-  EXPECT_EQ(reader.ReadText(), "z");
-  EXPECT_TRUE(reader.Eof());
-
+  EXPECT_EQ(
+      ReadAll("\"a,b\",\"line\r\nbreak\",\"x\ny\"\r\n\"\",\"q\"  ,z\n", &FieldReader::ReadText),
+      (Texts{"a,b", "line\r\nbreak", "x\ny", "", "q", "z"}));
   // What stands between the closing quote and the delimiter is skipped.
-  FieldReader after("\"ab\"cd,e\r\n\"f\" g h\r\ni\r\n");
-  EXPECT_EQ(after.ReadText(), "ab");
-  EXPECT_EQ(after.ReadText(), "e");
-  EXPECT_EQ(after.ReadText(), "f");
-  EXPECT_EQ(after.ReadText(), "i");
-  EXPECT_TRUE(after.Eof());
-
+  EXPECT_EQ(ReadAll("\"ab\"cd,e\r\n\"f\" g h\r\ni\r\n", &FieldReader::ReadText),
+            (Texts{"ab", "e", "f", "i"}));
   // A quote inside an unquoted field is data; an unclosed quote runs to the end.
-  FieldReader inner("ab\"c,\"open,to\nthe end");
-  EXPECT_EQ(inner.ReadText(), "ab\"c");
-  EXPECT_EQ(inner.ReadText(), "open,to\nthe end");
-  EXPECT_TRUE(inner.Eof());
+  EXPECT_EQ(ReadAll("ab\"c,\"open,to\nthe end", &FieldReader::ReadText),
+            (Texts{"ab\"c", "open,to\nthe end"}));
 }
 
 TEST(FieldReaderTest, emptyFieldsAndWhatStandsAheadOfAField) {
-  FieldReader text("a,,b,\"\",c\r\n");
-  EXPECT_EQ(text.ReadText(), "a");
-  EXPECT_EQ(text.ReadText(), "");
-  EXPECT_EQ(text.ReadText(), "b");
-  EXPECT_EQ(text.ReadText(), "");
-  EXPECT_EQ(text.ReadText(), "c");
-
-  FieldReader numbers("1.5,,2,abc\r\n");
-  EXPECT_EQ(numbers.ReadSingle(), 1.5f);
-  EXPECT_EQ(numbers.ReadSingle(), 0.0f);
-  EXPECT_EQ(numbers.ReadSingle(), 2.0f);
-  EXPECT_EQ(numbers.ReadSingle(), 0.0f);
-  EXPECT_TRUE(numbers.Eof());
-
+  EXPECT_EQ(ReadAll("a,,b,\"\",c\r\n", &FieldReader::ReadText), (Texts{"a", "", "b", "", "c"}));
+  EXPECT_EQ(ReadAll("1.5,,2,abc\r\n", &FieldReader::ReadSingle),
+            (std::vector<float>{1.5f, 0, 2, 0}));
   // Blanks, tabs and line ends ahead of a field are skipped; blanks inside stay.
-  FieldReader blanks("  \t a b ,\t\r\n\r\n  c\n\n\n\"d\"");
-  EXPECT_EQ(blanks.ReadText(), "a b ");
-  EXPECT_EQ(blanks.ReadText(), "c");
-  EXPECT_EQ(blanks.ReadText(), "d");
-  EXPECT_TRUE(blanks.Eof());
-
+  EXPECT_EQ(ReadAll("  \t a b ,\t\r\n\r\n  c\n\n\n\"d\"", &FieldReader::ReadText),
+            (Texts{"a b ", "c", "d"}));
   // A comma before a line end gives no empty field: the line end stands ahead
   // of the next field and is skipped.
-  FieldReader trailing("a,\r\nb\r\n");
-  EXPECT_EQ(trailing.ReadText(), "a");
-  EXPECT_EQ(trailing.ReadText(), "b");
-  EXPECT_TRUE(trailing.Eof());
+  EXPECT_EQ(ReadAll("a,\r\nb\r\n", &FieldReader::ReadText), (Texts{"a", "b"}));
 }
 
 TEST(FieldReaderTest, fieldsIgnoreWhereLinesEnd) {
@@ -105,21 +88,21 @@ TEST(FieldReaderTest, readingPastTheLastFieldFails) {
   FieldReader reader("1,2\r\n");
   reader.ReadText();
   reader.ReadText();
-  EXPECT_TRUE(FailsPastEnd([&] { reader.ReadText(); }));
-  EXPECT_TRUE(FailsPastEnd([&] { reader.ReadSingle(); }));
-  EXPECT_TRUE(FailsPastEnd([&] { reader.ReadVariant(); }));
-  EXPECT_TRUE(FailsPastEnd([] { FieldReader("").ReadText(); }));
+  EXPECT_EQ(FailureOf([&] { reader.ReadText(); }), kPastEnd);
+  EXPECT_EQ(FailureOf([&] { reader.ReadSingle(); }), kPastEnd);
+  EXPECT_EQ(FailureOf([&] { reader.ReadVariant(); }), kPastEnd);
+  EXPECT_EQ(FailureOf([] { FieldReader("").ReadText(); }), kPastEnd);
   FieldReader comma("1,");
   comma.ReadText();
-  EXPECT_TRUE(FailsPastEnd([&] { comma.ReadText(); }));
+  EXPECT_EQ(FailureOf([&] { comma.ReadText(); }), kPastEnd);
 
   // The row the missing field was pulled into fails at its end.
-  EXPECT_TRUE(FailsPastEnd([] { ReadRows("1,2\r\n3,4,5\r\n", 3); }));
+  EXPECT_EQ(FailureOf([] { ReadRows("1,2\r\n3,4,5\r\n", 3); }), kPastEnd);
   // End of file is tested between rows only: a blank line after the last row
   // makes one more row, and its reading fails.
-  EXPECT_TRUE(FailsPastEnd([] { ReadRows("1,2\r\n3,4\r\n\r\n", 2); }));
-  EXPECT_TRUE(FailsPastEnd([] { ReadRows("1,2\n3,4\n  \n", 2); }));
-  EXPECT_TRUE(FailsPastEnd([] { ReadRows("1,2\r\n\r", 2); }));
+  EXPECT_EQ(FailureOf([] { ReadRows("1,2\r\n3,4\r\n\r\n", 2); }), kPastEnd);
+  EXPECT_EQ(FailureOf([] { ReadRows("1,2\n3,4\n  \n", 2); }), kPastEnd);
+  EXPECT_EQ(FailureOf([] { ReadRows("1,2\r\n\r", 2); }), kPastEnd);
 
   // The failure tells where the reader stood, whatever the line ends.
   for (const char* content : {"a\r\nb\r\n\r\n", "a\nb\n\n", "a\rb\r\r"}) {
@@ -136,42 +119,13 @@ TEST(FieldReaderTest, readingPastTheLastFieldFails) {
 }
 
 TEST(FieldReaderTest, singleAndVariantTargets) {
-  FieldReader reader("12.5,-3e2, 7 ,1.5abc,\"2.5\",text,,\"\"\r\n");
-  EXPECT_EQ(reader.ReadSingle(), 12.5f);
-  EXPECT_EQ(reader.ReadSingle(), -300.0f);
-  EXPECT_EQ(reader.ReadSingle(), 7.0f);
-  EXPECT_EQ(reader.ReadSingle(), 1.5f);
-  // A quoted number is still a number to a Single.
-  EXPECT_EQ(reader.ReadSingle(), 2.5f);
-  EXPECT_EQ(reader.ReadSingle(), 0.0f);
-  EXPECT_EQ(reader.ReadSingle(), 0.0f);
-  EXPECT_EQ(reader.ReadSingle(), 0.0f);
-  EXPECT_TRUE(reader.Eof());
-
-  FieldReader variants("12.5, 7 ,1.5abc,\"2.5\",text,,\"\",-1E-05\r\n");
-  const Variant number = variants.ReadVariant();
-  EXPECT_TRUE(number.IsNumber());
-  EXPECT_EQ(number.ToDouble(), 12.5);
-  const Variant padded = variants.ReadVariant();
-  EXPECT_TRUE(padded.IsNumber());
-  EXPECT_EQ(padded.ToDouble(), 7.0);
-  const Variant mixed = variants.ReadVariant();
-  EXPECT_TRUE(mixed.IsText());
-  EXPECT_EQ(mixed.ToText(), "1.5abc");
-  const Variant quoted = variants.ReadVariant();
-  EXPECT_TRUE(quoted.IsText());
-  EXPECT_EQ(quoted.ToText(), "2.5");
-  const Variant word = variants.ReadVariant();
-  EXPECT_TRUE(word.IsText());
-  EXPECT_EQ(word.ToText(), "text");
-  const Variant empty = variants.ReadVariant();
-  EXPECT_EQ(empty.ToDouble(), 0.0);
-  EXPECT_EQ(empty.ToText(), "");
-  const Variant quotedEmpty = variants.ReadVariant();
-  EXPECT_TRUE(quotedEmpty.IsText());
-  EXPECT_EQ(quotedEmpty.ToText(), "");
-  EXPECT_EQ(variants.ReadVariant().ToDouble(), -1e-5);
-  EXPECT_TRUE(variants.Eof());
+  // A quoted number is still a number to a Single, but text to a variant.
+  EXPECT_EQ(ReadAll("12.5,-3e2, 7 ,1.5abc,\"2.5\",text,,\"\"\r\n", &FieldReader::ReadSingle),
+            (std::vector<float>{12.5f, -300, 7, 1.5f, 2.5f, 0, 0, 0}));
+  EXPECT_EQ(Variants("12.5, 7 ,1.5abc,\"2.5\",text,,\"\",-1E-05\r\n"),
+            (Texts{"number 12.5", "number 7", "text 1.5abc", "text 2.5", "text text", "empty",
+                   "text ", "number -1E-05"}));
+  EXPECT_EQ(ReadAll("-1E-05", &FieldReader::ReadVariant).at(0).ToDouble(), -1e-5);
 }
 
 TEST(FieldReaderTest, openReadsTheFileAsItIs) {
@@ -208,16 +162,8 @@ TEST(FieldWriterTest, textQuotedNumbersBareRowsEndInCrLf) {
   EXPECT_EQ(writer.Content(), "\"A-01\",12.5,,0.1,\"7\",-0.25\r\n1E-05,\"\"\r\n");
 
   // What is written reads back field by field.
-  FieldReader reader(writer.Content());
-  EXPECT_EQ(reader.ReadText(), "A-01");
-  EXPECT_EQ(reader.ReadSingle(), 12.5f);
-  EXPECT_TRUE(reader.ReadVariant().IsEmpty());
-  EXPECT_EQ(reader.ReadSingle(), 0.1f);
-  EXPECT_TRUE(reader.ReadVariant().IsText());
-  EXPECT_EQ(reader.ReadVariant().ToDouble(), -0.25);
-  EXPECT_EQ(reader.ReadSingle(), 1e-5f);
-  EXPECT_EQ(reader.ReadText(), "");
-  EXPECT_TRUE(reader.Eof());
+  EXPECT_EQ(Variants(writer.Content()), (Texts{"text A-01", "number 12.5", "empty", "number 0.1",
+                                               "text 7", "number -0.25", "number 1E-05", "text "}));
 }
 
 }  // namespace

@@ -5,7 +5,7 @@
 namespace ostraline {
 namespace {
 
-TEST(FileNamesTest, versionDateFromEightDigits) {
+TEST(FileNamesTest, versionDateFromEightDigitsOrAMonthNameElseTheName) {
   EXPECT_EQ(VersionDate("C:\\cores\\model_20110305.csv"), "05 Mar. 2011");
   EXPECT_EQ(VersionDate("/home/lake/model20111231.csv"), "31 Dec. 2011");
   EXPECT_EQ(VersionDate("20110501.csv"), "01 May 2011");
@@ -23,9 +23,8 @@ TEST(FileNamesTest, versionDateFromEightDigits) {
   EXPECT_EQ(VersionDate("/data/2011 0305.csv"), "2011 0305");
   // A run too large for any number does not read as one.
   EXPECT_EQ(VersionDate("C:\\m\\1E999999.csv"), "1E999999");
-}
 
-TEST(FileNamesTest, versionDateFromMonthName) {
+  // A month's name, when no eight digits make a date.
   EXPECT_EQ(VersionDate("C:\\models\\model 31 Jan. 2011.csv"), "31 Jan. 2011");
   EXPECT_EQ(VersionDate("/models/Co1234 14 Oct. 2009 final.csv"), "14 Oct. 2009");
   // May has no dot after it.
@@ -34,9 +33,8 @@ TEST(FileNamesTest, versionDateFromMonthName) {
   EXPECT_EQ(VersionDate("C:\\models\\model 31 jan. 2011.csv"), "model 31 jan. 2011");
   // Digits win over a month's name.
   EXPECT_EQ(VersionDate("/m/20100102 model 31 Jan. 2011.csv"), "02 Jan. 2010");
-}
 
-TEST(FileNamesTest, versionDateFallsBackToStemThenWholeName) {
+  // Else the stem.
   EXPECT_EQ(VersionDate("C:\\data\\cores\\model.csv"), "model");
   EXPECT_EQ(VersionDate("/home/lake/data/model v2.csv"), "model v2");
   EXPECT_EQ(VersionDate("C:\\data/mixed\\model.csv"), "model");

@@ -6,23 +6,11 @@
 #include <string>
 
 #include "runtime/checked_int.h"
-#include "runtime/failure.h"
 #include "runtime/variant.h"
+#include "support/failures.h"
 
 namespace ostraline {
 namespace {
-
-// The kind of failure a statement raises; the test fails when it raises none.
-template <class Statement>
-FailureKind KindOf(Statement statement) {
-  try {
-    statement();
-  } catch (const RuntimeFailure& failure) {
-    return failure.Kind();
-  }
-  ADD_FAILURE() << "no failure raised";
-  return FailureKind::InvalidProcedureCall;
-}
 
 TEST(NumberTextTest, valReadsLeadingNumericTextAndNeverFails) {
   EXPECT_EQ(Val("12.5abc"), 12.5);
@@ -71,12 +59,12 @@ TEST(NumberTextTest, strictConversionsFailOnTextThatIsNoNumber) {
   EXPECT_EQ(CSng("1.1"), 1.1f);
   EXPECT_EQ(CSng(" 0.5"), 0.5f);
   for (const char* text : {"", "  ", "abc", "1.5x", "1 2", ".", "-", "1e"}) {
-    EXPECT_EQ(KindOf([&] { CDbl(text); }), FailureKind::TypeMismatch) << '"' << text << '"';
-    EXPECT_EQ(KindOf([&] { CSng(text); }), FailureKind::TypeMismatch) << '"' << text << '"';
+    EXPECT_EQ(FailureOf([&] { CDbl(text); }), FailureKind::TypeMismatch) << '"' << text << '"';
+    EXPECT_EQ(FailureOf([&] { CSng(text); }), FailureKind::TypeMismatch) << '"' << text << '"';
   }
-  EXPECT_EQ(KindOf([] { CDbl("1e400"); }), FailureKind::Overflow);
-  EXPECT_EQ(KindOf([] { CSng("1e39"); }), FailureKind::Overflow);
-  EXPECT_EQ(KindOf([] { CSng(-1e39); }), FailureKind::Overflow);
+  EXPECT_EQ(FailureOf([] { CDbl("1e400"); }), FailureKind::Overflow);
+  EXPECT_EQ(FailureOf([] { CSng("1e39"); }), FailureKind::Overflow);
+  EXPECT_EQ(FailureOf([] { CSng(-1e39); }), FailureKind::Overflow);
   EXPECT_EQ(CSng(1e-50), 0.0f);
 }
 
@@ -135,36 +123,36 @@ TEST(NumberTextTest, roundIsHalfToEvenOnTheExactBinaryValue) {
   EXPECT_EQ(Round(4503599627370497.0), 4503599627370497.0);
   EXPECT_EQ(Round(1.2345678901234e300, 3), 1.2345678901234e300);
   EXPECT_TRUE(std::isinf(Round(INFINITY, 2)));
-  EXPECT_EQ(KindOf([] { Round(1.0, -1); }), FailureKind::InvalidProcedureCall);
+  EXPECT_EQ(FailureOf([] { Round(1.0, -1); }), FailureKind::InvalidProcedureCall);
 }
 
 TEST(NumberTextTest, wholeNumbersOverflowInsteadOfWrapping) {
   Integer i = 32767;
-  EXPECT_EQ(KindOf([&] { i += 1; }), FailureKind::Overflow);
+  EXPECT_EQ(FailureOf([&] { i += 1; }), FailureKind::Overflow);
   EXPECT_EQ(i, 32767);
-  EXPECT_EQ(KindOf([&] { ++i; }), FailureKind::Overflow);
-  EXPECT_EQ(KindOf([&] { (void)Integer(i + 1); }), FailureKind::Overflow);
+  EXPECT_EQ(FailureOf([&] { ++i; }), FailureKind::Overflow);
+  EXPECT_EQ(FailureOf([&] { (void)Integer(i + 1); }), FailureKind::Overflow);
   Integer low = -32768;
-  EXPECT_EQ(KindOf([&] { low--; }), FailureKind::Overflow);
-  EXPECT_EQ(KindOf([] { (void)Integer(40000); }), FailureKind::Overflow);
+  EXPECT_EQ(FailureOf([&] { low--; }), FailureKind::Overflow);
+  EXPECT_EQ(FailureOf([] { (void)Integer(40000); }), FailureKind::Overflow);
   Integer counter = 0;
   for (int n = 0; n < 5; ++n) ++counter;
   counter -= Integer(2);
   EXPECT_EQ(counter, 3);
 
   Long l = 2147483647;
-  EXPECT_EQ(KindOf([&] { l += 1; }), FailureKind::Overflow);
-  EXPECT_EQ(KindOf([] { (void)Long(-2147483649LL); }), FailureKind::Overflow);
+  EXPECT_EQ(FailureOf([&] { l += 1; }), FailureKind::Overflow);
+  EXPECT_EQ(FailureOf([] { (void)Long(-2147483649LL); }), FailureKind::Overflow);
   EXPECT_EQ(Long(70000) + 1, 70001);
 
   // Conversions from a float round half to even, then check the range.
   EXPECT_EQ(CInt(2.5), 2);
   EXPECT_EQ(CInt(3.5), 4);
   EXPECT_EQ(CInt(-32768.4), -32768);
-  EXPECT_EQ(KindOf([] { CInt(32767.5); }), FailureKind::Overflow);
-  EXPECT_EQ(KindOf([] { CInt(NAN); }), FailureKind::Overflow);
+  EXPECT_EQ(FailureOf([] { CInt(32767.5); }), FailureKind::Overflow);
+  EXPECT_EQ(FailureOf([] { CInt(NAN); }), FailureKind::Overflow);
   EXPECT_EQ(CLng(100000.5), 100000);
-  EXPECT_EQ(KindOf([] { CLng(2147483648.0); }), FailureKind::Overflow);
+  EXPECT_EQ(FailureOf([] { CLng(2147483648.0); }), FailureKind::Overflow);
 }
 
 TEST(NumberTextTest, textProceduresCountFromOne) {
@@ -182,9 +170,9 @@ TEST(NumberTextTest, textProceduresCountFromOne) {
   EXPECT_EQ(InStr("a-b-c", "-", 3), 4);
   EXPECT_EQ(InStr("a-b-c", "x"), 0);
   EXPECT_EQ(InStr("abc", "", 2), 2);
-  EXPECT_EQ(KindOf([] { Mid("abc", 0); }), FailureKind::InvalidProcedureCall);
-  EXPECT_EQ(KindOf([] { Left("abc", -1); }), FailureKind::InvalidProcedureCall);
-  EXPECT_EQ(KindOf([] { Divide(1, 0); }), FailureKind::DivisionByZero);
+  EXPECT_EQ(FailureOf([] { Mid("abc", 0); }), FailureKind::InvalidProcedureCall);
+  EXPECT_EQ(FailureOf([] { Left("abc", -1); }), FailureKind::InvalidProcedureCall);
+  EXPECT_EQ(FailureOf([] { Divide(1, 0); }), FailureKind::DivisionByZero);
 }
 
 TEST(VariantTest, emptyReadsAsZeroAndAsEmptyText) {
@@ -203,10 +191,10 @@ TEST(VariantTest, emptyReadsAsZeroAndAsEmptyText) {
   EXPECT_TRUE(Variant(Long(5)).IsNumber());
   EXPECT_FALSE(Variant("5").IsNumber());
 
-  EXPECT_EQ(KindOf([] { Variant("abc").ToDouble(); }), FailureKind::TypeMismatch);
-  EXPECT_EQ(KindOf([] { Variant("").ToDouble(); }), FailureKind::TypeMismatch);
-  EXPECT_EQ(KindOf([] { Variant("1.5 cm").ToSingle(); }), FailureKind::TypeMismatch);
-  EXPECT_EQ(KindOf([] { Variant(1e300).ToSingle(); }), FailureKind::Overflow);
+  EXPECT_EQ(FailureOf([] { Variant("abc").ToDouble(); }), FailureKind::TypeMismatch);
+  EXPECT_EQ(FailureOf([] { Variant("").ToDouble(); }), FailureKind::TypeMismatch);
+  EXPECT_EQ(FailureOf([] { Variant("1.5 cm").ToSingle(); }), FailureKind::TypeMismatch);
+  EXPECT_EQ(FailureOf([] { Variant(1e300).ToSingle(); }), FailureKind::Overflow);
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "support/age_files.h"
 
+#include "events/event_state.h"
 #include "forms/frm_main.h"
 #include "support/model_files.h"
 
@@ -8,6 +9,10 @@ namespace ostraline {
 const char* const kFusedLayer =
     "Hole,Section,Top,Bottom,Description\r\nA,01,42,48,Tephra\r\nA,01,46,50,Void\r\n";
 const char* const kNoLayer = "Hole,Section,Top,Bottom,Description\r\n";
+const std::vector<AgeRow> kThreeControlPoints = {
+    {"P1", "A", "01", "34", "0", "10", "1000", "20", "C1", "cal BP", "-"},
+    {"P2", "---", "---", "---", "200", "20", "2000", "30", "C1", "cal BP", "-"},
+    {"P3", "A", "02", "40", "0", "40", "3000", "40", "C1", "varve yr", "-"}};
 
 std::string AgeModelText(const std::vector<AgeRow>& rows, const AgeHeader& header) {
   std::string text = "Label,Hole,Section,PSP," + header.depth + "," + header.plus + ",Age," +
@@ -26,20 +31,15 @@ std::string VarveText(const std::vector<std::pair<std::string, std::string>>& ma
 }
 
 void AgeProgram::ImportModelAndEvents(const std::string& eventList) {
-  const std::vector<ModelRow> model = {DefaultHeader(),
-                                       RowA("A-01-top", "0", "100", ""),
-                                       RowA("L1", "10", "110", "110"),
-                                       RowA("L2", "50", "150", "160"),
-                                       RowA("A-01-bottom", "80", "180", ""),
-                                       RowA("A-02-top", "0", "185", "", "Gap"),
-                                       RowA("L3", "20", "205", "230"),
-                                       RowA("L4", "60", "245", "270"),
-                                       RowA("A-02-bottom", "90", "275", "")};
-  platform.QueueFile(WriteTempFile("model_20110305.csv", ModelText(model)));
-  frmMain->Command1_Click();
-  platform.QueueFile(WriteTempFile("events_20110401.csv", eventList));
-  frmMain->Command3_Click();
+  ImportModel(TwoSectionModel());
+  ImportEventList(eventList);
   ASSERT_TRUE(platform.messages.empty()) << OnlyMessage();
+}
+
+void AgeProgram::Restart(const std::string& eventList) {
+  ResetProgram();
+  platform.messages.clear();
+  ImportModelAndEvents(eventList);
 }
 
 void AgeProgram::ImportAges(const std::vector<AgeRow>& rows, const AgeHeader& header) {
@@ -47,14 +47,16 @@ void AgeProgram::ImportAges(const std::vector<AgeRow>& rows, const AgeHeader& he
   frmMain->Command4_Click();
 }
 
+void AgeProgram::ImportAll() {
+  ImportModelAndEvents(kFusedLayer);
+  ImportAges(kThreeControlPoints);
+  ASSERT_TRUE(platform.messages.empty()) << OnlyMessage();
+  ASSERT_TRUE(AgeModelLoaded);
+}
+
 void AgeProgram::ImportVarves(const std::vector<std::pair<std::string, std::string>>& markers) {
   platform.QueueFile(WriteTempFile("varves_20130201.csv", VarveText(markers)));
   frmMain->Command5_Click();
-}
-
-std::string AgeProgram::OnlyMessage() const {
-  if (platform.messages.size() != 1) return std::to_string(platform.messages.size()) + " messages";
-  return platform.messages[0].title + ": " + platform.messages[0].text;
 }
 
 }  // namespace ostraline

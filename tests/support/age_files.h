@@ -26,17 +26,22 @@ std::string VarveText(const std::vector<std::pair<std::string, std::string>>& ma
 extern const char* const kFusedLayer;
 // An event list with its header only: EFD is the composite depth.
 extern const char* const kNoLayer;
+// Control points at composite 140 (age 1000), 200 (2000) and 250 (3000), so
+// at EFD 140, 190 and 240 under kFusedLayer: 20 years to the cm. The last is
+// counted in another unit.
+extern const std::vector<AgeRow> kThreeControlPoints;
 
 class AgeProgram : public FreshProgram {
  protected:
-  // Bore hole A with ties PSP 10 at 110 cm, 50 at 160 (section 01) and 20 at
-  // 230, 60 at 270 (section 02); its bottom lies at 300 cm, and the target at
+  // Bore hole A of TwoSectionModel with the event list; the target lies at
   // 240 cm. The model's version is 05 Mar. 2011.
   void ImportModelAndEvents(const std::string& eventList);
+  // A fresh program again, without messages, and the same two imports.
+  void Restart(const std::string& eventList);
   void ImportAges(const std::vector<AgeRow>& rows, const AgeHeader& header = {});
+  // The model, kFusedLayer and kThreeControlPoints, all without a message.
+  void ImportAll();
   void ImportVarves(const std::vector<std::pair<std::string, std::string>>& markers);
-  // The one message box shown, as "title: text".
-  std::string OnlyMessage() const;
 };
 
 }  // namespace ostraline

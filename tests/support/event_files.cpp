@@ -2,6 +2,9 @@
 
 namespace ostraline {
 
+const std::vector<EventRow> kTwoLayersOfFourHoles = {{"A", "01", "60", "80", "Turbidite"},
+                                                     {"A", "02", "50", "60", "Tephra X"}};
+
 std::string EventListText(const std::vector<EventRow>& rows) {
   std::string text = "Bore hole,Section,Top,Bottom,Description\r\n";
   for (const EventRow& row : rows) {

@@ -15,5 +15,7 @@ struct EventRow {
 
 // The file text, one record to a line, fields as they stand.
 std::string EventListText(const std::vector<EventRow>& rows);
+// Layers of FourHoleModel from 260 to 280 and 400 to 410 cm in composite depth.
+extern const std::vector<EventRow> kTwoLayersOfFourHoles;
 
 }  // namespace ostraline

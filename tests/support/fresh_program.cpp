@@ -2,6 +2,7 @@
 
 #include "core/fresh_program.h"
 #include "forms/form.h"
+#include "forms/frm_main.h"
 
 namespace ostraline {
 
@@ -19,6 +20,26 @@ void FreshProgram::TearDown() {
   SetScreenObserver(nullptr);
   ResetProgram();
   SetPlatform(nullptr);
+}
+
+void FreshProgram::ImportModel(const std::vector<ModelRow>& rows, const std::string& name) {
+  platform.QueueFile(WriteTempFile(name, ModelText(rows)));
+  frmMain->Command1_Click();
+}
+
+void FreshProgram::ImportEventList(const std::string& text, const std::string& name) {
+  platform.QueueFile(WriteTempFile(name, text));
+  frmMain->Command3_Click();
+}
+
+std::string FreshProgram::OnlyMessage() const {
+  if (platform.messages.size() != 1) return std::to_string(platform.messages.size()) + " messages";
+  return platform.messages[0].title + ": " + platform.messages[0].text;
+}
+
+bool FreshProgram::FailedWithFormatError() const {
+  return OnlyMessage() == "Error: File format error." &&
+         platform.messages[0].icon == MsgIcon::Exclamation;
 }
 
 }  // namespace ostraline

@@ -4,9 +4,12 @@
 #include <gtest/gtest.h>
 
 #include <ostream>
+#include <string>
+#include <vector>
 
 #include "forms/scripted_platform.h"
 #include "runtime/variant.h"
+#include "support/model_files.h"
 
 namespace ostraline {
 
@@ -24,6 +27,16 @@ class FreshProgram : public ::testing::Test {
  protected:
   void SetUp() override;
   void TearDown() override;
+
+  // Queues the model file and presses the model's import button.
+  void ImportModel(const std::vector<ModelRow>& rows,
+                   const std::string& name = "model_20110305.csv");
+  // Queues the event list and presses its import button.
+  void ImportEventList(const std::string& text, const std::string& name = "events_20110401.csv");
+  // The one message box shown, as "title: text".
+  std::string OnlyMessage() const;
+  // The one message box is the readers' format error with its exclamation icon.
+  bool FailedWithFormatError() const;
 
   ScriptedPlatform platform;
 };

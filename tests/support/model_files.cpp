@@ -47,9 +47,17 @@ std::string WriteTempFile(const std::string& name, const std::string& content) {
   return path.string();
 }
 
-}  // namespace ostraline
-
-namespace ostraline {
+std::vector<ModelRow> TwoSectionModel() {
+  return {DefaultHeader(),
+          RowA("A-01-top", "0", "100", ""),
+          RowA("L1", "10", "110", "110"),
+          RowA("L2", "50", "150", "160"),
+          RowA("A-01-bottom", "80", "180", ""),
+          RowA("A-02-top", "0", "185", "", "Gap"),
+          RowA("L3", "20", "205", "230"),
+          RowA("L4", "60", "245", "270"),
+          RowA("A-02-bottom", "90", "275", "")};
+}
 
 std::vector<ModelRow> FourHoleModel() {
   struct Line {

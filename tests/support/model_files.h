@@ -23,10 +23,10 @@ std::string ModelText(const std::vector<ModelRow>& rows, bool longLayout = false
 // Writes text into a fresh file of that name in the test's temporary folder.
 std::string WriteTempFile(const std::string& name, const std::string& content);
 
-}  // namespace ostraline
-
-namespace ostraline {
-
+// Bore hole A in two sections: ties PSP 10 at 110 cm and 50 at 160 cm in
+// section 01, then a gap and ties 20 at 230 and 60 at 270 in section 02,
+// whose bottom (PSP 90) lies at 300 cm.
+std::vector<ModelRow> TwoSectionModel();
 // Four bore holes cut alike: two sections each, ties at composite depth 200,
 // 250, 300 in the first and 350, 450 in the second; every core ends at 500.
 std::vector<ModelRow> FourHoleModel();

@@ -1,0 +1,11 @@
+#pragma once
+// The staff console: its login and the trace of the composite depth box.
+namespace ostraline {
+
+class FrmMain;
+
+// Prints the target horizon's guards and the composite depth text on the
+// console, seven lines for each change of the box.
+void TraceText2Change(FrmMain& form);
+
+}  // namespace ostraline
