@@ -1,5 +1,9 @@
 #include "desktop/form_window.h"
 
+#include <QGuiApplication>
+#include <QScreen>
+#include <algorithm>
+
 #include <QApplication>
 #include <QCloseEvent>
 #include <QCursor>
@@ -141,7 +145,14 @@ void FormWindow::SyncForm(std::string_view property) {
   const bool all = property.empty();
   if (all || property == "Caption") setWindowTitle(ToQString(form_->Caption.Get()));
   if (all || property == "Left" || property == "Top") {
-    move(ToPixels(form_->Left.Get()), ToPixels(form_->Top.Get()));
+    // A form placed beyond the screen's edge (a tall photo above the main
+    // form, say) still shows its top left corner.
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    const int x = std::clamp(ToPixels(form_->Left.Get()), screen.left(),
+                             std::max(screen.left(), screen.right() - 100));
+    const int y = std::clamp(ToPixels(form_->Top.Get()), screen.top(),
+                             std::max(screen.top(), screen.bottom() - 100));
+    move(x, y);
   }
   if (all || property == "Width" || property == "Height" || property == "Resizable") ApplySize();
   if (all || property == "Enabled") setEnabled(form_->Enabled.Get());
