@@ -208,5 +208,20 @@ TEST_F(ProxyPanel, SkippingRowsBelowTheViewChangesNoOperation) {
   }
 }
 
+// With a ratio plotted, a running mean is the mean of the ratios, not the
+// ratio of the means.
+TEST_F(ProxyPanel, RunningMeansOfARatio) {
+  ImportColumns({"V", "W"}, {{"1", "2", "3", "4", "5", "6", "7", "8"},
+                             {"1", "2", "4", "8", "1", "2", "4", "8"}});
+  frmMain->mnuFlat3_(0).Checked = true;
+  frmMain->Check1(0).Value = 1;
+  frmMain->Combo4(0).Text = "W";
+  frmMain->Combo4_Click(0);
+  const auto means = Ops(DrawKind::Line, RGB(255, 0, 0));
+  ASSERT_FALSE(means.empty());
+  EXPECT_FLOAT_EQ(means.front()->ux1, (1.0f + 1.0f + 0.75f) / 3);
+  EXPECT_FLOAT_EQ(means.front()->uy1, 115);
+}
+
 }  // namespace
 }  // namespace ostraline
