@@ -19,8 +19,11 @@ Single FirstTie(const ModelRows& rows) {
   return 9999;
 }
 
+// `from` is the upper end of the last band; rows without a tie or without a
+// depth on this bore hole leave it and `previous` as they stand, and may
+// still paint that band again and end the reach back after a gap.
 void PaintPiecesOf(BoreHoleSet& set, int hole, PictureBox& column, const ModelRows& rows,
-                   Single start) {
+                   Single start, Single& from) {
   const float top = column.ScaleTop;
   const float bottom = column.ScaleTop + column.ScaleHeight;
   Single previous = start;
@@ -34,13 +37,14 @@ void PaintPiecesOf(BoreHoleSet& set, int hole, PictureBox& column, const ModelRo
       }
     }
     const Single depth = rows.Depth(hole, r);
-    if (rows.Tie(r) == 9999 || depth == 9999) continue;
-    Single from = previous;
-    previous = depth;
-    // A piece that starts after a gap reaches back to the PSP of the row
-    // after the gap, not to the gap row.
-    if (rows.KindNames(hole, r) && gapRow > 0 && rows.KindNames(hole, gapRow + 1)) {
-      from = AsSingle(depth - rows.Psp(hole, r) + rows.Psp(hole, gapRow + 1));
+    if (rows.Tie(r) != 9999 && depth != 9999) {
+      from = previous;
+      previous = depth;
+      // A piece that starts after a gap reaches back to the PSP of the row
+      // after the gap, not to the gap row.
+      if (rows.KindNames(hole, r) && gapRow > 0 && rows.KindNames(hole, gapRow + 1)) {
+        from = AsSingle(depth - rows.Psp(hole, r) + rows.Psp(hole, gapRow + 1));
+      }
     }
     if (!(bottom > from && previous > top)) continue;
     if (rows.KindNames(hole, r) || (!rows.KindNamesAnyHole(r) && rows.KindNames(hole, r - 1))) {
@@ -57,7 +61,11 @@ void PaintPiecesOf(BoreHoleSet& set, int hole, PictureBox& column, const ModelRo
 
 void PaintSplicedParts(BoreHoleSet& set, FrmMain& form, const ModelRows& rows) {
   const Single start = FirstTie(rows);
-  for (int hole = 1; hole <= 4; ++hole) PaintPiecesOf(set, hole, form.BoreHole(hole), rows, start);
+  // Before the first tie of bore hole A, From is 0; each later bore hole
+  // starts with the From the one before it left, as one variable serves all.
+  Single from = 0;
+  for (int hole = 1; hole <= 4; ++hole)
+    PaintPiecesOf(set, hole, form.BoreHole(hole), rows, start, from);
 }
 
 }  // namespace ostraline

@@ -214,14 +214,61 @@ TEST_F(CoreColumns, pieceAfterAGapStartsFromThePspOfTheRowAfterTheGap) {
   View(0, 500);
   DrawLamina();
   // A's band closes at the depth of the row before the gap.
-  EXPECT_EQ(Count(1, Box(kCyan, 140, 180)), 1);
   EXPECT_EQ(Count(1, Box(kCyan, 180, 180)), 1);
-  // 260 - PSP 20 + PSP 0 of the section top after the gap.
-  EXPECT_EQ(Count(1, Box(kCyan, 240, 260)), 1);
-  EXPECT_EQ(Count(1, Box(kCyan, 180, 260)), 0);
+  // The gap row and the untied section top paint A's last band again, and
+  // that ends the reach back: the next piece starts where A's last one ended.
+  EXPECT_EQ(Count(1, Box(kCyan, 140, 180)), 3);
+  EXPECT_EQ(Count(1, Box(kCyan, 180, 260)), 1);
+  EXPECT_EQ(Count(1, Box(kCyan, 240, 260)), 0);
   EXPECT_EQ(Count(1, Box(kCyan, 260, 300)), 1);
   // The deepest bore hole closes the composite at its core bottom.
   EXPECT_EQ(Count(1, Box(kCyan, 300, CoreBottom(1))), 1);
+
+  // With the piece before the gap above the view nothing ends the reach
+  // back: 260 - PSP 20 + PSP 0 of the section top after the gap.
+  View(185, 500);
+  DrawLamina();
+  EXPECT_EQ(Count(1, Box(kCyan, 240, 260)), 1);
+  EXPECT_EQ(Count(1, Box(kCyan, 180, 260)), 0);
+}
+
+TEST_F(CoreColumns, rowsWithoutATieStillPaintTheLastBandOnTheEventFreeScale) {
+  // Splice, then label, PSP and EFD of A and B, and the composite EFD.
+  const std::vector<std::vector<std::string>> cells = {
+      {"A", "A-01-top", "0", "90", "B-01-top", "0", "90", "9999"},
+      {"A", "L1", "10", "100", "M1", "10", "100", "100"},
+      {"B", "L2", "50", "140", "M2", "50", "140", "140"},
+      {"Gap", "A-01-bottom", "90", "180", "B-01-bottom", "90", "180", "9999"},
+      {"A", "A-02-top", "0", "230", "*", "*", "*", "9999"},
+      {"A", "L3", "20", "260", "*", "*", "*", "260"},
+      {"A", "A-02-bottom", "60", "300", "*", "*", "*", "300"}};
+  std::vector<ModelRow> model{DefaultHeader()};
+  for (const auto& c : cells) {
+    const std::string tie = c[7] == "9999" ? "" : c[7];
+    model.push_back(Row(c[0], {c[1], c[2], c[3]}, {c[4], c[5], c[6]}, tie));
+  }
+  Import(model);
+  // The event free depths as the event list import leaves them.
+  for (long r = 1; r <= LastRow; ++r) {
+    const auto& c = cells[static_cast<std::size_t>(r - 1)];
+    for (int hole = 1; hole <= 2; ++hole) {
+      const bool empty = c[static_cast<std::size_t>(hole * 3 - 1)] == "*";
+      ModelCell(2, hole, 1, r) = empty ? "9999" : c[static_cast<std::size_t>(hole * 3 - 1)];
+      ModelCell(2, hole, 2, r) = empty ? "9999" : c[static_cast<std::size_t>(hole * 3)];
+    }
+    TieCell(2, r) = c[7];
+  }
+  DepthAxis = 2;
+  View(0, 500);
+  DrawLamina();
+  // Before the first tie the band reaches from 0 down to the first tie.
+  EXPECT_EQ(Count(1, Box(kCyan, 0, 100)), 1);
+  // The untied section top after the gap repaints A's band of 100 to 140,
+  // though B carried the composite there, and the piece after it starts at
+  // 140 instead of reaching back to 240 by the PSP.
+  EXPECT_EQ(Count(1, Box(kCyan, 100, 140)), 1);
+  EXPECT_EQ(Count(1, Box(kCyan, 140, 260)), 1);
+  EXPECT_EQ(Count(1, Box(kCyan, 240, 260)), 0);
 }
 
 TEST_F(CoreColumns, sectionGapsAreComparedAsTextAndLongOnesStayUncrossed) {
