@@ -1,5 +1,7 @@
 // The target horizon's faces follow one another once and only once: the
 // guards DrivenBy and ActionCount decide which handler leads.
+#include <cmath>
+
 #include "core/core_bottom.h"
 #include "core/depth_conversions.h"
 #include "core/hole_lookup.h"
@@ -43,7 +45,10 @@ void FrmMain::Text2_Change() {
     }
     const bool follow = (DrivenBy == 2 || DrivenBy == 9) && !Command1.Enabled;
     if (DrivenBy == 2 || DrivenBy == 9) {
-      Slider1.Value = static_cast<long>(CLng(v));
+      // The slider shows the whole part of the depth, cut toward zero
+      // (1234.6 and -12.7 show 1234 and -12); CLng still refuses a depth
+      // beyond its range.
+      Slider1.Value = static_cast<long>(CLng(std::trunc(v)));
       std::string centre;
       if (Option2(1).Value) {
         centre = Text2.Text;

@@ -1,6 +1,7 @@
 // Labels, frames, the slider, the progress bar, timers, and the controls the
 // form's canvas paints.
 #include <QLabel>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QProgressBar>
 #include <QSlider>
@@ -14,6 +15,19 @@
 
 namespace ostraline {
 namespace {
+
+// A label's mouse events are its own: the form below must not run its move,
+// press and click handlers for them as well.
+class LabelWidget : public QLabel {
+ public:
+  using QLabel::QLabel;
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override { event->accept(); }
+  void mouseMoveEvent(QMouseEvent* event) override { event->accept(); }
+  void mouseReleaseEvent(QMouseEvent* event) override { event->accept(); }
+  void mouseDoubleClickEvent(QMouseEvent* event) override { event->accept(); }
+};
 
 class LabelAdapter : public ControlAdapter {
  public:
@@ -193,7 +207,7 @@ class TimerAdapter : public ControlAdapter {
 }  // namespace
 
 std::unique_ptr<ControlAdapter> MakeLabelAdapter(Label& label, QWidget* parent) {
-  return std::make_unique<LabelAdapter>(label, new QLabel(parent));
+  return std::make_unique<LabelAdapter>(label, new LabelWidget(parent));
 }
 
 std::unique_ptr<ControlAdapter> MakeFrameAdapter(Frame& frame, QWidget* parent) {

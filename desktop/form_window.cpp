@@ -28,6 +28,10 @@ constexpr int kCaptionPixels = 23;
 constexpr int kMenuBarPixels = 20;
 
 unsigned long g_showCount = 0;
+// The form window that was active last: a form becomes active again only
+// when the user comes from another of the program's forms, not from another
+// program or a message box.
+const FormWindow* g_lastActive = nullptr;
 
 std::unique_ptr<ControlAdapter> MakeAdapter(Control& control, QWidget* parent, QWidget* canvas) {
   switch (control.Kind()) {
@@ -84,7 +88,9 @@ FormWindow::FormWindow(Form& form) : form_(&form), canvas_(new FormCanvas(form, 
   SyncForm({});
 }
 
-FormWindow::~FormWindow() = default;
+FormWindow::~FormWindow() {
+  if (g_lastActive == this) g_lastActive = nullptr;
+}
 
 ControlAdapter* FormWindow::Bind(Control& control) {
   if (ControlAdapter* bound = AdapterOf(control)) return bound;
@@ -161,6 +167,7 @@ void FormWindow::SyncForm(std::string_view property) {
   if (all || property == "Visible") {
     if (form_->Visible.Get()) {
       shownOrder_ = ++g_showCount;
+      showActivationPending_ = !isVisible();
       show();
       raise();
       activateWindow();
@@ -212,6 +219,18 @@ bool FormWindow::event(QEvent* event) {
         newest->raise();
         newest->activateWindow();
       });
+    }
+  }
+  if (event->type() == QEvent::WindowActivate && isEnabled() && form_ != nullptr) {
+    // The form becomes active again each time the user comes back to it from
+    // another of the program's forms; it then holds the keyboard too.
+    const bool fromShow = showActivationPending_;
+    const bool fromOtherForm = g_lastActive != this;
+    showActivationPending_ = false;
+    g_lastActive = this;
+    if (!fromShow && fromOtherForm) ForwardEvent([this] { form_->Form_Activate(); });
+    if ((fromShow || fromOtherForm) && form_ != nullptr) {
+      ForwardEvent([this] { form_->Form_GotFocus(); });
     }
   }
   return QMainWindow::event(event);

@@ -50,6 +50,9 @@ class FormWindow : public QMainWindow {
   // When the form was last shown: the newest enabled window takes the
   // activation a disabled one refuses.
   unsigned long shownOrder_ = 0;
+  // Show has run Form_Activate already: the activation that follows the
+  // showing is that same one.
+  bool showActivationPending_ = false;
   std::unordered_map<const Control*, std::unique_ptr<ControlAdapter>> adapters_;
 };
 

@@ -55,7 +55,11 @@ void FrmMain::mnuHorizontalN_Click(int /*panel*/) {
   ToggleHorizontalLine(*this);
 }
 
-// The fixed horizon is part of the committed picture, not of the overlay.
+// The fixed horizon is its own setting, not a seventh switch of the pointer's
+// line: the columns and the strip draw it from this check mark alone, and
+// were the click to flip the pointer's line instead, nothing could ever turn
+// the horizon on or off. It is part of the committed picture, not of the
+// overlay, so it redraws the columns.
 void FrmMain::mnuHorizontalBH_Click() {
   Toggle(mnuHorizontalBH);
   RedrawColumns();

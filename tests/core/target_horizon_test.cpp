@@ -170,5 +170,21 @@ TEST_F(TargetHorizon, PickingASectionMovesTheTrinityAndTheDepth) {
   EXPECT_EQ(form.Label1(8).Caption.Get(), "400");
 }
 
+// The slider takes the whole part of the depth, cut toward zero.
+TEST_F(TargetHorizon, SliderTakesTheWholePartOfTheDepth) {
+  FrmMain& form = *frmMain;
+  TypeDepth("274.6");
+  EXPECT_TRUE(platform.messages.empty());
+  EXPECT_EQ(form.Slider1.Value.Get(), 274);
+  // Below the cores: only with the checks off, as while a bore hole change sets up.
+  ActionCount = 9999;
+  DrivenBy = 2;
+  form.Text2.Text = "1234.6";
+  EXPECT_EQ(form.Slider1.Value.Get(), 1234);
+  TypeDepth("-12.7");
+  EXPECT_EQ(form.Slider1.Value.Get(), -12);
+  EXPECT_EQ(form.Text2.Text.Get(), "-12.7");
+}
+
 }  // namespace
 }  // namespace ostraline

@@ -1,17 +1,21 @@
 // The main form in its window: caption, placement, menus, painting, the
 // import of a correlation model through the dialog, and a dialog over the
-// disabled main form that keeps the activation.
+// disabled main form that keeps the activation, and which handlers the
+// window's activation and mouse moves run.
 #include <gtest/gtest.h>
 
 #include <QAction>
 #include <QApplication>
 #include <QImage>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QTest>
 
+#include "desktop/form_window.h"
 #include "forms/frm_main.h"
 #include "forms/frm_select.h"
 #include "shell_fixture.h"
@@ -109,6 +113,56 @@ TEST_F(MainWindow, ImportsTheModelChosenInTheDialog) {
   EXPECT_TRUE(window->windowTitle().contains(QStringLiteral("core_model_20110305")));
   EXPECT_FALSE(frmMain->Command1.Enabled.Get());
   EXPECT_FALSE(command1->isEnabled());
+}
+
+// A form that counts how often its window's events run its handlers.
+class CountingForm : public Form {
+ public:
+  CountingForm() : Form("frmCounting", "Counting") {
+    Width = 3000;
+    Height = 2000;
+    caption.Width = 1200;
+    caption.Height = 600;
+    caption.MouseMove = [this](int, int, float, float) { ++labelMoves; };
+  }
+  void Form_Activate() override { ++activations; }
+  void Form_GotFocus() override { ++focuses; }
+  void Form_MouseMove(int, int, float, float) override { ++formMoves; }
+
+  Label caption{*this, "Label1"};
+  int activations = 0, focuses = 0, labelMoves = 0, formMoves = 0;
+};
+
+void MoveOver(QWidget* widget) {
+  QMouseEvent move(QEvent::MouseMove, QPointF(5, 5), widget->mapToGlobal(QPointF(5, 5)),
+                   Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(widget, &move);
+}
+
+TEST_F(MainWindow, ActivationRunsActivateAndGotFocusEachTimeTheFormComesBack) {
+  CountingForm form;
+  FormWindow counting(form);
+  form.Show();  // the model runs Form_Activate; the shell is not told of this form
+  counting.SyncForm("Visible");
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&counting));
+  // The activation that follows the showing is the one Show already ran.
+  EXPECT_EQ(form.activations, 1);
+  EXPECT_EQ(form.focuses, 1);
+
+  window->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+  counting.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&counting));
+  EXPECT_EQ(form.activations, 2);
+  EXPECT_EQ(form.focuses, 2);
+
+  // A move over the label is the label's alone; the canvas's is the form's.
+  MoveOver(counting.WidgetOf(form.caption));
+  EXPECT_EQ(form.labelMoves, 1);
+  EXPECT_EQ(form.formMoves, 0);
+  MoveOver(counting.centralWidget());
+  EXPECT_EQ(form.formMoves, 1);
+  counting.Detach();
 }
 
 using DialogWindows = ShellTest;
