@@ -85,13 +85,11 @@ void FrmMain::mnuSize_Click(int index) {
 // The strip goes to the clipboard on white, then back to its own colour.
 // The committed picture of a column, without the pointer's overlay.
 void FrmMain::mnuCompCopy_Click() {
-  CurrentPlatform().ClipboardClear();
-  CurrentPlatform().ClipboardSetPicture(BoreHole(0).GetPicture());
+  CopyToClipboard(BoreHole(0).GetPicture());
 }
 
 void FrmMain::mnuCopyCore_Click() {
-  CurrentPlatform().ClipboardClear();
-  CurrentPlatform().ClipboardSetPicture(BoreHole(CopyHole).GetPicture());
+  CopyToClipboard(BoreHole(CopyHole).GetPicture());
 }
 
 void FrmMain::mnuCopyDepth_Click() {
@@ -99,8 +97,7 @@ void FrmMain::mnuCopyDepth_Click() {
   const long ownColour = strip.BackColor;
   strip.BackColor = kWhite;
   DrawBH5();
-  CurrentPlatform().ClipboardClear();
-  CurrentPlatform().ClipboardSetPicture(strip.Image());
+  CopyToClipboard(strip.Image());
   strip.BackColor = ownColour;
   DrawBH5();
 }

@@ -15,6 +15,9 @@ constexpr long kDarkGrey = RGB(100, 100, 100);
 constexpr long kPaleCyan = RGB(220, 255, 255);
 constexpr long kLabelGrey = RGB(80, 80, 80);
 constexpr long kHorizonGreen = RGB(0, 170, 0);
+// Event layers: ordinary ones and tephras; voids are grey with a cross.
+constexpr long kEventYellow = RGB(225, 225, 125);
+constexpr long kTephraBlue = RGB(150, 150, 255);
 // The columns of the bore holes and the composite are 7.6 wide.
 constexpr float kColumnWidth = 7.6f;
 

@@ -14,9 +14,6 @@
 namespace ostraline {
 namespace {
 
-constexpr long kEventYellow = RGB(225, 225, 125);
-constexpr long kTephraBlue = RGB(150, 150, 255);
-
 // Events have no thickness on the event free scale or on age.
 void ChooseEventColumns() {
   if (DepthAxis == 1) {

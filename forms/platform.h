@@ -50,6 +50,12 @@ void SetPlatform(Platform* platform);
 MsgAnswer MsgBox(const std::string& text, MsgButtons buttons, const std::string& title,
                  MsgIcon icon = MsgIcon::None);
 
+// Every copy clears the clipboard first, then puts the picture on it.
+inline void CopyToClipboard(const Picture& picture) {
+  CurrentPlatform().ClipboardClear();
+  CurrentPlatform().ClipboardSetPicture(picture);
+}
+
 // The screen object: its mouse pointer and size.
 class ScreenObject {
  public:

@@ -75,8 +75,7 @@ void FrmMain::mnuMulti_0_Click() {
 
 // The committed picture: curve, overlay and background, not the target line.
 void FrmMain::mnuCopy_Click(int p) {
-  CurrentPlatform().ClipboardClear();
-  CurrentPlatform().ClipboardSetPicture(Picture1(p).GetPicture());
+  CopyToClipboard(Picture1(p).GetPicture());
 }
 
 // Takes effect at the next pointer move over the panel.

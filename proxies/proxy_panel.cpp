@@ -4,8 +4,8 @@
 
 #include <cmath>
 #include <initializer_list>
-#include <utility>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/project_state.h"
@@ -22,8 +22,6 @@ namespace ostraline {
 namespace {
 
 constexpr long kCurveBlue = RGB(0, 0, 255);
-constexpr long kEventYellow = RGB(225, 225, 125);
-constexpr long kTephraBlue = RGB(150, 150, 255);
 
 // The column of a header name; the last equal name wins, and a name that is
 // none of them leaves the column as it was.
@@ -52,8 +50,8 @@ void MakePlotValues(const ProxyRecords& records, int p) {
   for (long i = 1; i <= rows; ++i) {
     const Single numerator = ProxyPlot(1, i);
     const Single denominator = ProxyPlot(2, i);
-    const bool none = std::fabs(numerator) == 9999 || std::fabs(denominator) == 9999 ||
-                      denominator == 0;
+    const bool none =
+        std::fabs(numerator) == 9999 || std::fabs(denominator) == 9999 || denominator == 0;
     ProxyPlot(0, i) = none ? 9999.0f : numerator / denominator;
   }
 }
@@ -178,8 +176,8 @@ void DrawCurve(PictureBox& panel, const ProxyRecords& records, int p, long first
       const Single next = ProxyPlot(0, i + 1);
       const Single upper = depth(PlotScale, i);
       const Single lower = depth(PlotScale, i + 1);
-      if (std::fabs(value) != 9999 && std::fabs(next) != 9999 && upper != 9999 &&
-          lower != 9999 && !(upper > lower)) {
+      if (std::fabs(value) != 9999 && std::fabs(next) != 9999 && upper != 9999 && lower != 9999 &&
+          !(upper > lower)) {
         panel.Line(value, upper, next, lower, CurveColour);
       }
     }
