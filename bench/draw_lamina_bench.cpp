@@ -11,6 +11,7 @@
 #include "core/project_state.h"
 #include "display/core_columns.h"
 #include "display/display_state.h"
+#include "display/scale_strip.h"
 #include "events/event_free_depth.h"
 #include "events/event_state.h"
 #include "forms/frm_main.h"
@@ -102,6 +103,19 @@ BENCHMARK_F(CoreView, DrawLaminaAgeStrip)(benchmark::State& state) {
   frmMain->mnuAge.Checked = true;
   for (auto _ : state) DrawLamina();
 }
+
+// Twenty thousand years to the cm: a tick of the strip every hundred years is
+// a hundred thousand lookups in the model. The argument 0 runs every tick of
+// the loop; 1 computes what can show.
+BENCHMARK_DEFINE_F(CoreView, DrawSteepAgeStrip)(benchmark::State& state) {
+  for (int j = 1; j <= kAgePoints; ++j) AgeModel(7, j) = Str(j * 80.0 * 20000);
+  frmMain->mnuDepth.Checked = false;
+  frmMain->mnuAge.Checked = true;
+  DrawOnlyWhatShows = state.range(0) != 0;
+  for (auto _ : state) DrawBH5();
+  state.counters["strip ops"] = static_cast<double>(frmMain->BoreHole(5).WorkingOps().size());
+}
+BENCHMARK_REGISTER_F(CoreView, DrawSteepAgeStrip)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace ostraline

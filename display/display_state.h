@@ -38,6 +38,12 @@ struct DisplayState {
   Single RestoreWidth = 0;
   BooleanFlag FormNarrowed = false;
   Table<Single> FormEdge;  // 0..2
+
+  // The panels skip the rows whose lines and markers the canvas would drop
+  // and read the record once into plain arrays; the scale strip computes
+  // only the age ticks that can show. Off, every row and every tick is
+  // computed through the checked reads (the tests compare the two).
+  bool DrawOnlyWhatShows = true;
 };
 
 inline DisplayState displayState;
@@ -66,5 +72,6 @@ inline auto& BaseFormWidth = displayState.BaseFormWidth;
 inline auto& RestoreWidth = displayState.RestoreWidth;
 inline auto& FormNarrowed = displayState.FormNarrowed;
 inline auto& FormEdge = displayState.FormEdge;
+inline auto& DrawOnlyWhatShows = displayState.DrawOnlyWhatShows;
 
 }  // namespace ostraline

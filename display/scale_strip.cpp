@@ -1,6 +1,7 @@
 #include "display/scale_strip.h"
 
 #include "core/project_state.h"
+#include "display/age_ticks.h"
 #include "display/core_columns_paint.h"
 #include "display/display_state.h"
 #include "events/age_lookup.h"
@@ -15,18 +16,13 @@ namespace {
 
 constexpr int kBusyPointer = 11;
 constexpr long kVarveBand = RGB(255, 150, 150);
-// The axis of both scales, and the right end of every tick.
-constexpr float kAxis = 9.0f;
-// An age scale whose ticks of one kind would outnumber this many is beyond
-// what the strip can show; it is left out rather than computed for minutes.
-constexpr long kMostAgeTicks = 100000;
 
 float ScaleBottom(const PictureBox& strip) {
   return strip.ScaleTop + strip.ScaleHeight;
 }
 
 void Tick(PictureBox& strip, float fromX, float y) {
-  strip.Line(fromX, y, kAxis, y, kBlack);
+  strip.Line(fromX, y, kStripAxis, y, kBlack);
 }
 
 // A tick with its number to the left, a little above it.
@@ -47,7 +43,7 @@ void DrawDepthTicks(PictureBox& strip, int from, int to, float fromX, float text
 // The depths are printed straight on the strip's scale, so they read in the
 // selected scale's units, and they end at 10000.
 void DrawDepthScale(PictureBox& strip) {
-  strip.Line(kAxis, 0, kAxis, ScaleBottom(strip), kBlack);
+  strip.Line(kStripAxis, 0, kStripAxis, ScaleBottom(strip), kBlack);
   if (LabelFontSize > 1) {
     LabelledTick(strip, 7, 0, 4.8f, 0);
     DrawDepthTicks(strip, 100, 900, 7, 2.8f);
@@ -59,15 +55,6 @@ void DrawDepthScale(PictureBox& strip) {
     }
   }
   for (int depth = 10; depth <= 9990; depth += 10) Tick(strip, 8.5f, static_cast<float>(depth));
-}
-
-// The composite depth of an age, through its event free depth.
-float AgePosition(double age) {
-  return EFDToCD(GetEFDFromAge(AsSingle(age)).ToSingle()).ToSingle();
-}
-
-bool TooManyTicks(long from, long to, long step) {
-  return (to - from) / step >= kMostAgeTicks;
 }
 
 struct LabelledAges {
@@ -86,12 +73,12 @@ constexpr LabelledAges kLabelledAges[] = {
     {100000, 999000, 3.8f, 1000, 99900, 999100},
 };
 
-void DrawLabelledAges(PictureBox& strip, double ageTop, double ageEnd) {
+void DrawLabelledAges(BoreHoleSet& set, PictureBox& strip, double ageTop, double ageEnd) {
   for (const LabelledAges& ages : kLabelledAges) {
     if (ageTop >= ages.skipTop && ageEnd >= ages.skipEnd) continue;
     for (I = ages.from; I <= ages.to; I += 1000) {
       if (!(ageTop < I && I <= ageEnd)) continue;
-      const float y = AgePosition(I);
+      const float y = AgePosition(set, I);
       if (ages.divisor == 1) {
         LabelledTick(strip, 8, y, ages.textX, static_cast<int>(I));
       } else {
@@ -101,27 +88,15 @@ void DrawLabelledAges(PictureBox& strip, double ageTop, double ageEnd) {
   }
 }
 
-// Unlabelled ticks at every step of age over the view, where the age lies
-// below the top of the core.
-void DrawAgeTicks(PictureBox& strip, double from, double to, long step, float fromX) {
-  const long first = CLng(from);
-  const long last = CLng(to);
-  if (TooManyTicks(first, last, step)) return;
-  for (I = first; I <= last; I += step) {
-    const float y = AgePosition(I);
-    if (y > 0) Tick(strip, fromX, y);
-  }
-}
-
-void DrawAgeScale(PictureBox& strip, double ageTop, double ageEnd) {
-  const float zero = AgePosition(0);
-  strip.Line(kAxis, zero, kAxis, ScaleBottom(strip), kBlack);
+void DrawAgeScale(BoreHoleSet& set, PictureBox& strip, double ageTop, double ageEnd) {
+  const float zero = AgePosition(set, 0);
+  strip.Line(kStripAxis, zero, kStripAxis, ScaleBottom(strip), kBlack);
   if (LabelFontSize < 2) return;
   if (ageTop < 100) LabelledTick(strip, 8, zero, 6.2f, 0);
-  DrawLabelledAges(strip, ageTop, ageEnd);
-  DrawAgeTicks(strip, Round(ageTop / 1000, 0) * 1000 - 500, Round(ageEnd / 1000, 0) * 1000, 1000,
-               8.1f);
-  DrawAgeTicks(strip, Round(ageTop / 100, 0) * 100, Round(ageEnd / 100, 0) * 100, 100, 8.55f);
+  DrawLabelledAges(set, strip, ageTop, ageEnd);
+  DrawAgeTicks(set, strip, Round(ageTop / 1000, 0) * 1000 - 500, Round(ageEnd / 1000, 0) * 1000,
+               1000, 8.1f);
+  DrawAgeTicks(set, strip, Round(ageTop / 100, 0) * 100, Round(ageEnd / 100, 0) * 100, 100, 8.55f);
 }
 
 // The fixed horizon's mark: a green line and dot at the middle of the strip.
@@ -154,10 +129,10 @@ void DrawBH5(BoreHoleSet& set) {
     ageEnd = GetAgeFromCD(set, composite.ScaleTop + composite.ScaleHeight).ToDouble();
   }
   if (set.VarveCountsLoaded)
-    strip.LineBF(8.2f, set.VarveTopCD, kAxis, set.VarveBottomCD, kVarveBand);
+    strip.LineBF(8.2f, set.VarveTopCD, kStripAxis, set.VarveBottomCD, kVarveBand);
   if (form.mnuHorizontalBH.Checked) MarkFixedHorizon(strip);
   if (ageScale) {
-    DrawAgeScale(strip, ageTop, ageEnd);
+    DrawAgeScale(set, strip, ageTop, ageEnd);
   } else {
     DrawDepthScale(strip);
   }

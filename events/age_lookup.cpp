@@ -12,6 +12,7 @@
 #include "events/varve_counts.h"
 #include "forms/frm_main.h"
 #include "forms/platform.h"
+#include "runtime/failure.h"
 #include "runtime/number_text.h"
 
 namespace ostraline {
@@ -224,6 +225,23 @@ Variant GetEFDFromAge(BoreHoleSet& set, Single age) {
   ErrorsBetween(set, lower, upper, part, whole);
   SayInterpolatedBy(set, "(interpolated by EFD)");
   return efd;
+}
+
+std::optional<std::vector<Single>> RisingControlAges(BoreHoleSet& set) {
+  if (set.VarveCountsLoaded || set.AgeModelCount < 2) return std::nullopt;
+  std::vector<Single> ages;
+  try {
+    for (long row = 1; row <= set.AgeModelCount; ++row) {
+      for (const int column : {kErrorPlus, kErrorMinus}) CellDouble(set, column, row);
+      ages.push_back(CellSingle(set, kAge, row));
+      const bool rises = row == 1 || (ages[row - 2] < ages[row - 1] &&
+                                      CellSingle(set, kEfd, row - 1) <= CellSingle(set, kEfd, row));
+      if (!rises) return std::nullopt;
+    }
+  } catch (const RuntimeFailure&) {
+    return std::nullopt;
+  }
+  return ages;
 }
 
 void FrmMain::DisplayAge() {

@@ -3,6 +3,9 @@
 // age, from the control points of the age-depth model. Between two control
 // points the age runs linearly in EFD, or by the counted varves where the
 // varve record covers both points.
+#include <optional>
+#include <vector>
+
 #include "core/bore_hole_set.h"
 #include "runtime/checked_int.h"
 #include "runtime/variant.h"
@@ -27,5 +30,11 @@ Variant GetEFDFromAge(BoreHoleSet& set, Single age);
 inline Variant GetEFDFromAge(Single age) {
   return GetEFDFromAge(masterSet, age);
 }
+
+// The ages of the control points in rising order, when between any two of
+// them the EFD of an age rises with the age: the ages rise strictly, the EFDs
+// never fall, every age, EFD and error reads as a number and no varve record
+// bends the line. Nothing otherwise.
+std::optional<std::vector<Single>> RisingControlAges(BoreHoleSet& set);
 
 }  // namespace ostraline

@@ -42,4 +42,11 @@ Variant EFDToCD(BoreHoleSet& set, Single efd) {
   return Round(static_cast<double>(efd) + thickness, DepthPrecision);
 }
 
+bool CompositeRisesWithEFD(const BoreHoleSet& set) {
+  for (long i = 1; i < set.EventCount; ++i) {
+    if (set.EventBottom(1, i) < set.EventTop(1, i)) return false;
+  }
+  return true;
+}
+
 }  // namespace ostraline

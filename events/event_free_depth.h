@@ -19,4 +19,8 @@ inline Variant EFDToCD(Single efd) {
   return EFDToCD(masterSet, efd);
 }
 
+// Whether EFDToCD never falls as the EFD rises, away from the two sentinels:
+// no layer it counts ends above its top.
+bool CompositeRisesWithEFD(const BoreHoleSet& set);
+
 }  // namespace ostraline

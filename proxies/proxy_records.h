@@ -63,11 +63,6 @@ struct ProxyState {
   Integer PlotScale = 0;
   // False while the program itself writes a panel's axis limits.
   BooleanFlag ProxyAxisEventsOn = true;
-  // The drawing skips the rows whose lines and markers the canvas would
-  // drop, and the running means read the record once into plain arrays;
-  // off, every row is computed through the tables' checked reads (the tests
-  // compare the two).
-  bool DrawOnlyWhatShows = true;
 };
 
 inline ProxyState proxyState;
@@ -76,6 +71,5 @@ inline auto& ProxyPlot = proxyState.ProxyPlot;
 inline auto& CurveColour = proxyState.CurveColour;
 inline auto& PlotScale = proxyState.PlotScale;
 inline auto& ProxyAxisEventsOn = proxyState.ProxyAxisEventsOn;
-inline auto& DrawOnlyWhatShows = proxyState.DrawOnlyWhatShows;
 
 }  // namespace ostraline

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <vector>
 
+#include "display/display_state.h"
 #include "forms/frm_main.h"
 #include "proxies/proxy_records.h"
 #include "runtime/checked_int.h"

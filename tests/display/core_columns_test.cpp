@@ -480,23 +480,36 @@ class ScaleStrip : public CoreColumns {
     });
   }
 
-  // Age is ten times the depth, and no event layer: EFD equals composite depth.
-  void LoadLinearAgeModel() {
+  // Control points of (composite depth = EFD, age), no event layer.
+  void LoadAgeModel(const std::vector<std::pair<std::string, std::string>>& points) {
     LoadLayers({});
     EventListLoaded = true;
-    AgeModel.Dim({{0, 11}, {0, 2}});
-    AgeModelCount = 2;
+    const long count = static_cast<long>(points.size());
+    AgeModel.Dim({{0, 11}, {0, count}});
+    AgeModelCount = count;
     AgeModelLoaded = true;
-    const char* depth[] = {"0", "20000"};
-    const char* age[] = {"0", "200000"};
-    for (int r = 1; r <= 2; ++r) {
+    for (long r = 1; r <= count; ++r) {
+      const auto& [depth, age] = points[static_cast<std::size_t>(r - 1)];
       AgeModel(0, r) = "C1";
-      AgeModel(5, r) = depth[r - 1];
-      AgeModel(11, r) = depth[r - 1];
-      AgeModel(7, r) = age[r - 1];
-      AgeModel(6, r) = "0";
-      AgeModel(8, r) = "0";
+      AgeModel(5, r) = depth;
+      AgeModel(11, r) = depth;
+      AgeModel(7, r) = age;
+      AgeModel(6, r) = std::to_string(r);
+      AgeModel(8, r) = std::to_string(2 * r);
       AgeModel(9, r) = "yr";
+    }
+  }
+  // Age is ten times the depth.
+  void LoadLinearAgeModel() { LoadAgeModel({{"0", "0"}, {"20000", "200000"}}); }
+  // Cuts layers of 30 cm out of the scale at EFD 50 and 140.
+  void CutTwoLayers() {
+    EventCount = 3;
+    EventTop.Dim({{0, 3}, {0, 3}});
+    EventBottom.Dim({{0, 3}, {0, 3}});
+    const float tops[] = {0, 50, 170, 400};
+    for (long r = 0; r <= 3; ++r) {
+      EventTop(1, r) = tops[r];
+      EventBottom(1, r) = r == 0 || r == 3 ? tops[r] : tops[r] + 30;
     }
   }
 };
@@ -618,6 +631,74 @@ TEST_F(ScaleStrip, ageScaleLabelsEachThousandYearsAndSkipsWhereItIsTold) {
   EXPECT_EQ(Ops(5)[0].kind, DrawKind::Box);
   EXPECT_EQ(Ops(5)[1].kind, DrawKind::Line);
   EXPECT_TRUE(Near(Ops(5)[1].ux1, 9) && Near(Ops(5)[1].uy1, 0) && Near(Ops(5)[1].ux2, 9));
+}
+
+// A steep model makes loops of tens of thousands of ticks, of which only
+// those that can show are computed: the strip must show the same pixels at
+// any pixel ratio and the same other operations, and the loop must leave the
+// same counter, errors and caption, on several stretches and layers, also
+// with the core top in view and with everything below the model.
+TEST_F(ScaleStrip, longAgeLoopsShowWhatTheFullLoopShows) {
+  LoadAgeModel({{"0", "0"}, {"35", "400000"}, {"90", "1000000"}, {"260", "2600000"}});
+  CutTwoLayers();
+  DriveIndex = 4;
+  struct Drawing {
+    std::vector<DrawOp> ops;
+    long counter;
+    float plus, minus;
+    std::string caption;
+  };
+  const auto draw = [&](bool onlyWhatShows) {
+    DrawOnlyWhatShows = onlyWhatShows;
+    frmMain->Label9.Caption = "";
+    frmMain->mnuAge.Click();
+    return Drawing{Ops(5), I, AgeErrorPlus, AgeErrorMinus, frmMain->Label9.Caption};
+  };
+  const auto isTick = [](const DrawOp& op) {
+    return op.kind == DrawKind::Line && op.uy1 == op.uy2 && (op.ux1 == 8.1f || op.ux1 == 8.55f);
+  };
+  const auto rows = [&](const std::vector<DrawOp>& ops, float fromX, int ratio) {
+    std::vector<long> covered;
+    for (const DrawOp& op : ops) {
+      if (isTick(op) && op.ux1 == fromX)
+        covered.push_back(std::lround(std::floor(op.y1 * ratio / 15)));
+    }
+    std::sort(covered.begin(), covered.end());
+    covered.erase(std::unique(covered.begin(), covered.end()), covered.end());
+    return covered;
+  };
+  for (const auto& [top, span] : {std::pair{0.0f, 500}, {-40.0f, 300}, {600.0f, 200}}) {
+    View(top, span);
+    const Drawing full = draw(false);
+    const Drawing fast = draw(true);
+    const long fullTicks = std::count_if(full.ops.begin(), full.ops.end(), isTick);
+    EXPECT_GT(fullTicks, 10000) << top;
+    if (top == 0) EXPECT_LT(std::count_if(fast.ops.begin(), fast.ops.end(), isTick), fullTicks / 2);
+    std::vector<DrawOp> others;
+    std::copy_if(fast.ops.begin(), fast.ops.end(), std::back_inserter(others),
+                 [&](const DrawOp& op) { return !isTick(op); });
+    std::size_t next = 0;
+    for (const DrawOp& op : full.ops) {
+      if (isTick(op)) continue;
+      ASSERT_LT(next, others.size());
+      EXPECT_TRUE(op.kind == others[next].kind && op.y1 == others[next].y1 &&
+                  op.text == others[next].text)
+          << top;
+      ++next;
+    }
+    EXPECT_EQ(next, others.size());
+    for (const float fromX : {8.1f, 8.55f}) {
+      for (const int ratio : {1, 2, 3}) {
+        EXPECT_EQ(rows(fast.ops, fromX, ratio), rows(full.ops, fromX, ratio))
+            << top << " " << ratio;
+      }
+    }
+    EXPECT_EQ(fast.counter, full.counter);
+    EXPECT_EQ(fast.plus, full.plus);
+    EXPECT_EQ(fast.minus, full.minus);
+    EXPECT_EQ(fast.caption, "(interpolated by EFD)");
+    EXPECT_EQ(fast.caption, full.caption);
+  }
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/project_state.h"
+#include "display/display_state.h"
 #include "forms/frm_main.h"
 #include "proxies/proxy_panel.h"
 #include "proxies/proxy_records.h"
