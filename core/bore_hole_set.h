@@ -3,10 +3,11 @@
 // correlation model, the event layers, the age-depth model, the varve record,
 // their versions and loaded flags, the age lookup's results and a main form's
 // saved texts and drive guards. The master's holes A to D are one instance;
-// the Duo's parallel holes E to H will be another, with the same tables.
+// the Duo's parallel holes E to H are the other, with the same tables.
 #include <array>
 #include <string>
 
+#include "forms/hole_names.h"
 #include "runtime/checked_int.h"
 #include "runtime/table.h"
 #include "runtime/variant.h"
@@ -14,7 +15,10 @@
 namespace ostraline {
 
 struct BoreHoleSet {
-  explicit BoreHoleSet(const std::array<const char*, 4>& holeNames);
+  BoreHoleSet(const std::array<const char*, 4>& holeNames, bool isDuo);
+
+  // The Duo's parallel set, whose few documented differences branch on this.
+  bool IsDuo = false;
 
   // The correlation model: Scale 0..3, Hole 0..5, Item 0..2, Row 0..LastRow.
   Table<std::string, 4> ModelCell;
@@ -74,9 +78,11 @@ struct BoreHoleSet {
   std::string SavedText4;
 };
 
-inline constexpr std::array<const char*, 4> kMasterHoleNames = {"A", "B", "C", "D"};
+class MainForm;
+// The main form that shows a set: frmMain the master's, frm2Main the Duo's.
+MainForm& MainFormOf(const BoreHoleSet& set);
 
 // The master's set, bore holes A to D.
-inline BoreHoleSet masterSet(kMasterHoleNames);
+inline BoreHoleSet masterSet(kMasterHoleNames, false);
 
 }  // namespace ostraline

@@ -14,7 +14,7 @@ bool BelowEveryCoreBottom(double depth) {
   return true;
 }
 
-void RefuseBelowCoreBottom(FrmMain& form) {
+void RefuseBelowCoreBottom(MainForm& form) {
   MsgBox("Requested horizon is below core bottom.", MsgButtons::Ok, "Error", MsgIcon::Exclamation);
   form.Text2.Text = SavedText2;
   if (EventListLoaded) form.Text3.Text = SavedText3;

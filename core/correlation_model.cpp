@@ -5,6 +5,7 @@
 
 #include "core/depth_conversions.h"
 #include "core/project_state.h"
+#include "duo/duo_state.h"
 #include "forms/frm_main.h"
 #include "forms/frm_version.h"
 #include "forms/platform.h"
@@ -16,7 +17,8 @@ namespace ostraline {
 namespace {
 
 // One row of the file: the splice column, three fields for each bore hole,
-// the composite depth, and four dropped fields in the long layout.
+// the composite depth, and four more fields in the long layout, which the
+// master drops and the Duo keeps as its row's tie to the master.
 void ReadModelRow(BoreHoleSet& set, FieldReader& file, long row, bool longLayout,
                   bool spliceAlreadyRead) {
   if (!spliceAlreadyRead) set.TieCell(0, row) = file.ReadText();
@@ -25,7 +27,10 @@ void ReadModelRow(BoreHoleSet& set, FieldReader& file, long row, bool longLayout
   }
   set.TieCell(1, row) = file.ReadText();
   if (longLayout) {
-    for (int extra = 0; extra < 4; ++extra) file.ReadText();
+    for (int field = 0; field < 4; ++field) {
+      std::string text = file.ReadText();
+      if (set.IsDuo) MasterTrinity(field, row) = std::move(text);
+    }
   }
 }
 
@@ -38,7 +43,7 @@ bool StartsWith(const std::string& text, const char* head) {
   return Left(text, Len(head)) == head;
 }
 
-void ReadHoleHeader(BoreHoleSet& set, FrmMain& form, int hole) {
+void ReadHoleHeader(BoreHoleSet& set, MainForm& form, int hole) {
   const std::string x = set.ModelCell(0, hole, 0, 0);
   long p = Len(x) - 1;
   // Without a "(" the scan reaches position 0, which is no valid position.
@@ -60,9 +65,7 @@ void ReadHoleHeader(BoreHoleSet& set, FrmMain& form, int hole) {
   form.mnuBH(hole).Caption = "Bore hole " + set.HoleName(hole);
 }
 
-void ReadModelFile(BoreHoleSet& set, FrmMain& form, FieldReader& file) {
-  set.ModelCell.Dim({{0, 3}, {0, 5}, {0, 2}, {0, 5000}});
-  set.TieCell.Dim({{0, 3}, {0, 5000}});
+void ReadMasterRows(BoreHoleSet& set, FieldReader& file) {
   ReadModelRow(set, file, 0, false, false);
   const std::string f = file.ReadText();
   // A splice cell of a data row holds its prefix and one letter: three or
@@ -80,7 +83,27 @@ void ReadModelFile(BoreHoleSet& set, FrmMain& form, FieldReader& file) {
     ++row;
   }
   set.LastRow = row - 1;
+}
 
+}  // namespace
+
+void DimensionModel(BoreHoleSet& set) {
+  // The Duo's tables have no Scale for ages.
+  const long lastScale = set.IsDuo ? 2 : 3;
+  set.ModelCell.Dim({{0, lastScale}, {0, 5}, {0, 2}, {0, 5000}});
+  set.TieCell.Dim({{0, lastScale}, {0, 5000}});
+}
+
+void ReadDuoRows(BoreHoleSet& set, FieldReader& file) {
+  long row = 0;
+  do {
+    ReadModelRow(set, file, row, true, false);
+    ++row;
+  } while (!file.Eof());
+  set.LastRow = row - 1;
+}
+
+void TidyModel(BoreHoleSet& set, MainForm& form, const std::array<const char*, 4>& defaultNames) {
   for (long r = 0; r <= set.LastRow; ++r) {
     for (int item = 0; item <= 2; ++item) {
       for (int hole = 1; hole <= 4; ++hole) {
@@ -106,8 +129,7 @@ void ReadModelFile(BoreHoleSet& set, FrmMain& form, FieldReader& file) {
   form.ProgressBar1.Visible = true;
   Screen.SetMousePointer(11);
 
-  const char* defaults[] = {"A", "B", "C", "D"};
-  for (int hole = 1; hole <= 4; ++hole) set.HoleName(hole) = defaults[hole - 1];
+  for (int hole = 1; hole <= 4; ++hole) set.HoleName(hole) = defaultNames[hole - 1];
   for (int hole = 1; hole <= 4; ++hole) ReadHoleHeader(set, form, hole);
 
   for (int column = 0; column <= 1; ++column) {
@@ -119,7 +141,7 @@ void ReadModelFile(BoreHoleSet& set, FrmMain& form, FieldReader& file) {
   }
 }
 
-void SweepSections(BoreHoleSet& set, FrmMain& form) {
+void SweepSections(BoreHoleSet& set, MainForm& form) {
   set.SectionName.Dim({{0, 4}, {0, 500}});
   set.SectionTopRow.Dim({{0, 4}, {0, 500}});
   set.SectionBottomRow.Dim({{0, 4}, {0, 500}});
@@ -139,9 +161,7 @@ void SweepSections(BoreHoleSet& set, FrmMain& form) {
   }
 }
 
-}  // namespace
-
-void SweepModelDepths(BoreHoleSet& set, FrmMain& form) {
+void SweepModelDepths(BoreHoleSet& set, MainForm& form) {
   for (int hole = 1; hole <= 4; ++hole) {
     set.SectionCount(hole) = 0;
     for (long r = 1; r <= set.LastRow; ++r) {
@@ -186,10 +206,12 @@ void FrmMain::Command1_Click() {
     ModelVersion = VersionDate(CommonDialog1.FileName);
     frmVersion->Label2(1).Caption = ModelVersion;
     Caption = Caption + "   [" + FileStem(CommonDialog1.FileName) + "]";
-    ReadModelFile(masterSet, *this, file);
+    DimensionModel(masterSet);
+    ReadMasterRows(masterSet, file);
+    TidyModel(masterSet, *this, kMasterHoleNames);
     SweepSections(masterSet, *this);
     SweepModelDepths(masterSet, *this);
-    OpenFormForWork(*this);
+    OpenFormForWork(masterSet, *this);
   } catch (const RuntimeFailure&) {
     ResetProgress(*this);
     if (fileOpen) ShowFormatError();

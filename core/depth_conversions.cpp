@@ -90,7 +90,8 @@ Variant CompositeFromTrinity(BoreHoleSet& set, int hole, int section, Single psp
       return Cd(set, a) + (p - Psp(set, hole, a)) * Divide(Cd(set, b) - Cd(set, a),
                                                            Psp(set, hole, b) - Psp(set, hole, a));
     };
-    FrmMain& form = *frmMain;
+    // The extrapolation method is the master's, for both sets.
+    MainForm& form = *frmMain;
     if (form.Option4(0).Value) return interpolation();
     if (form.Option4(1).Value) {
       if (CSng(Psp(set, hole, a)) > psp) return Cd(set, a) + (p - Psp(set, hole, a));
@@ -104,7 +105,7 @@ Variant CompositeFromTrinity(BoreHoleSet& set, int hole, int section, Single psp
 }
 
 void GetPSP(BoreHoleSet& set, int hole, Single target) {
-  FrmMain& form = *frmMain;
+  MainForm& form = MainFormOf(set);
   if (form.Command1.Enabled) return;
   try {
     // The section: the first whose estimated bottom lies strictly below the target.

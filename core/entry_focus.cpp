@@ -9,14 +9,14 @@
 
 namespace ostraline {
 
-void PointLine2At(FrmMain& form, const TextBox& box) {
+void PointLine2At(MainForm& form, const TextBox& box) {
   const float y = box.Top + 120;
   form.Line2(0).Y2 = y;
   form.Line2(1).Y1 = y;
   form.Line2(1).Y2 = y;
 }
 
-void SaveTargetTexts(FrmMain& form, bool alwaysEfd) {
+void SaveTargetTexts(MainForm& form, bool alwaysEfd) {
   SavedText2 = form.Text2.Text;
   if (alwaysEfd || EventListLoaded) SavedText3 = form.Text3.Text;
   if (AgeModelLoaded) SavedText4 = form.Text4.Text;

@@ -3,12 +3,12 @@
 
 namespace ostraline {
 
-class FrmMain;
+class MainForm;
 class TextBox;
 
 // The small pointer line Line2 runs from the middle of the columns to the box.
-void PointLine2At(FrmMain& form, const TextBox& box);
+void PointLine2At(MainForm& form, const TextBox& box);
 // The texts the boxes go back to when a horizon is refused.
-void SaveTargetTexts(FrmMain& form, bool alwaysEfd);
+void SaveTargetTexts(MainForm& form, bool alwaysEfd);
 
 }  // namespace ostraline

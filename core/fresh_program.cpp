@@ -3,6 +3,7 @@
 #include "core/bore_hole_set.h"
 #include "core/project_state.h"
 #include "display/display_state.h"
+#include "duo/duo_state.h"
 #include "events/batch_state.h"
 #include "events/event_state.h"
 #include "forms/form.h"
@@ -14,7 +15,9 @@ namespace ostraline {
 void ResetProgramState() {
   FormSlot::ResetAll();
   coreState = CoreState{};
-  masterSet = BoreHoleSet(kMasterHoleNames);
+  masterSet = BoreHoleSet(kMasterHoleNames, false);
+  duoSet = BoreHoleSet(kDuoHoleNames, true);
+  duoState = DuoState{};
   displayState = DisplayState{};
   eventState = EventState{};
   batchState = BatchState{};

@@ -5,7 +5,7 @@
 
 namespace ostraline {
 
-FieldReader OpenDataFile(FrmMain& form, bool& fileOpen) {
+FieldReader OpenDataFile(MainForm& form, bool& fileOpen) {
   form.CommonDialog1.CancelError = true;
   form.CommonDialog1.Filter = "DataFile(*.csv)|*.csv";
   form.CommonDialog1.ShowOpen();
@@ -14,7 +14,7 @@ FieldReader OpenDataFile(FrmMain& form, bool& fileOpen) {
   return file;
 }
 
-void ResetProgress(FrmMain& form) {
+void ResetProgress(MainForm& form) {
   form.ProgressBar1.Value = 0;
   form.ProgressBar1.Visible = false;
   Screen.SetMousePointer(0);

@@ -5,13 +5,13 @@
 
 namespace ostraline {
 
-class FrmMain;
+class MainForm;
 
 // The open dialog with the data files' filter; cancelling raises the failure
 // that ends the import silently. fileOpen turns true once the file is open.
-FieldReader OpenDataFile(FrmMain& form, bool& fileOpen);
+FieldReader OpenDataFile(MainForm& form, bool& fileOpen);
 // The progress bar at 0 and hidden, the default pointer.
-void ResetProgress(FrmMain& form);
+void ResetProgress(MainForm& form);
 // "File format error." titled "Error" with the exclamation icon.
 void ShowFormatError();
 

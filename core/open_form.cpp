@@ -10,10 +10,10 @@
 
 namespace ostraline {
 
-void OpenFormForWork(FrmMain& form) {
-  for (int i = 1; i <= SectionCount(1); ++i) {
+void OpenFormForWork(BoreHoleSet& set, MainForm& form) {
+  for (int i = 1; i <= set.SectionCount(1); ++i) {
     form.Combo2.AddItem(Right("00" + Str(i), 2));
-    form.Combo5.AddItem(SectionName(1, i));
+    form.Combo5.AddItem(set.SectionName(1, i));
   }
 
   for (int i = 0; i <= 4; ++i) form.BoreHole(i).BackColor = kWhite;
@@ -44,28 +44,28 @@ void OpenFormForWork(FrmMain& form) {
     menu->Enabled = true;
   }
 
-  DrivenBy = 2;
+  set.DrivenBy = 2;
   ActionCount = 0;
   form.Text2.Text = "240";
-  DrivenBy = 0;
+  set.DrivenBy = 0;
 
   for (int hole = 1; hole <= 4; ++hole) {
-    GetPSP(hole, CSng(Val(form.Text2.Text)));
+    GetPSP(set, hole, CSng(Val(form.Text2.Text)));
     form.mnuBH(hole).Enabled = TargetPSP >= 0;
   }
   for (int hole = 1; hole <= 4; ++hole) {
-    if (CSng(Val(form.Text2.Text)) > CoreBottom(hole)) form.mnuBH(hole).Enabled = false;
+    if (CSng(Val(form.Text2.Text)) > set.CoreBottom(hole)) form.mnuBH(hole).Enabled = false;
   }
 
-  form.Combo1.Text = HoleName(1);
-  form.Combo1.AddItem(HoleName(1));
+  form.Combo1.Text = set.HoleName(1);
+  form.Combo1.AddItem(set.HoleName(1));
   for (int hole = 2; hole <= 4; ++hole) {
-    if (CoreBottom(hole) != 9999) form.Combo1.AddItem(HoleName(hole));
+    if (set.CoreBottom(hole) != 9999) form.Combo1.AddItem(set.HoleName(hole));
   }
   form.mnuCopyDepth.Enabled = true;
 
-  // The correlation assist's ruler, from the columns' scale as it stands now.
-  frmKX11->FollowColumnScale();
+  // The correlation assist's ruler, from the master's columns as they stand now.
+  if (!set.IsDuo) frmKX11->FollowColumnScale();
 
   form.ProgressBar1.Value = 0;
   form.ProgressBar1.Visible = false;

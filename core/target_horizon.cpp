@@ -21,7 +21,7 @@ namespace ostraline {
 namespace {
 
 // Which cores reach the target: a negative PSP lies above the section.
-void EnableBoreHoleMenus(FrmMain& form, double target) {
+void EnableBoreHoleMenus(MainForm& form, double target) {
   for (int hole = 1; hole <= 4; ++hole) {
     GetPSP(hole, CSng(target));
     form.mnuBH(hole).Enabled = TargetPSP >= 0;

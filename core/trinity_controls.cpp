@@ -13,7 +13,7 @@ namespace ostraline {
 namespace {
 
 // The section's ordinal as digits, to the ordinal box.
-void SelectSectionByName(FrmMain& form, bool userPick) {
+void SelectSectionByName(MainForm& form, bool userPick) {
   HoleKey = GetBH(form.Combo1.Text).ToText();
   const long hole = static_cast<long>(Val(HoleKey));
   for (I = 1; I <= SectionCount(hole); ++I) {
@@ -28,12 +28,12 @@ void SelectSectionByName(FrmMain& form, bool userPick) {
   }
 }
 
-std::string SectionNameOfCombos(FrmMain& form) {
+std::string SectionNameOfCombos(MainForm& form) {
   return SectionName(static_cast<long>(GetBH(form.Combo1.Text).ToDouble()),
                      static_cast<long>(Val(form.Combo2.Text)));
 }
 
-void SectionPicked(FrmMain& form, bool userPick) {
+void SectionPicked(MainForm& form, bool userPick) {
   if (DrivenBy != 0) return;
   if (userPick) ActionCount = 0;
   DrivenBy = 1;

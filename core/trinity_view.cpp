@@ -13,7 +13,7 @@
 namespace ostraline {
 
 void SearchCoreTop() {
-  FrmMain& form = *frmMain;
+  MainForm& form = *frmMain;
   for (int hole = 1; hole <= 4; ++hole) {
     if (HoleName(hole) == form.Combo1.Text) K = hole;
   }
@@ -35,7 +35,7 @@ void SearchCoreTop() {
 }
 
 void GetCompositDepth() {
-  FrmMain& form = *frmMain;
+  MainForm& form = *frmMain;
   int hole = 0;
   for (int h = 1; h <= 4; ++h) {
     if (HoleName(h) == form.Combo1.Text) hole = h;

@@ -20,14 +20,14 @@ void Toggle(Menu& entry) {
 }
 
 // The pointer's line on the columns and on every panel is one setting.
-void ToggleHorizontalLine(FrmMain& form) {
+void ToggleHorizontalLine(MainForm& form) {
   const bool shown = !form.mnuHorizontal.Checked;
   form.mnuHorizontal.Checked = shown;
   for (int p = 0; p <= 4; ++p) form.mnuHorizontalN(p).Checked = shown;
   ClearTargetLine();
 }
 
-void ShowStripScale(FrmMain& form, Menu& chosen, Menu& other) {
+void ShowStripScale(MainForm& form, Menu& chosen, Menu& other) {
   chosen.Checked = true;
   other.Checked = false;
   form.BoreHole(5).Cls();

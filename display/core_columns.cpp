@@ -13,7 +13,7 @@
 namespace ostraline {
 namespace {
 
-void ClearColumns(FrmMain& form) {
+void ClearColumns(MainForm& form) {
   for (int i = 0; i <= 5; ++i) {
     PictureBox& column = form.BoreHole(i);
     column.Cls();
@@ -24,13 +24,13 @@ void ClearColumns(FrmMain& form) {
   }
 }
 
-void CommitColumns(FrmMain& form) {
+void CommitColumns(MainForm& form) {
   for (int i = 0; i <= 5; ++i) form.BoreHole(i).CommitImage();
 }
 
 // The panels follow the columns' depth window: a loaded panel draws its
 // record, any other shows its background.
-void ScalePanels(FrmMain& form) {
+void ScalePanels(MainForm& form) {
   for (int i = 0; i <= 4; ++i) {
     PictureBox& panel = form.Picture1(i);
     panel.ScaleTop = form.BoreHole(0).ScaleTop.Get();
@@ -45,7 +45,7 @@ void ScalePanels(FrmMain& form) {
   }
 }
 
-void SaveTexts(const FrmMain& form) {
+void SaveTexts(const MainForm& form) {
   SavedDepthText = form.Text2.Text.Get();
   SavedEFDText = form.Text3.Text.Get();
   SavedAgeText = form.Text4.Text.Get();
@@ -54,7 +54,7 @@ void SaveTexts(const FrmMain& form) {
 }  // namespace
 
 void DrawLamina(BoreHoleSet& set) {
-  FrmMain& form = *frmMain;
+  MainForm& form = *frmMain;
   const ModelRows rows(set);
   ClearColumns(form);
   PaintAboveCore(form, rows);

@@ -73,7 +73,7 @@ void ChooseAgeDepthColumn() {
   if (DepthAxis == 3) AgeDepthColumn = 7;
 }
 
-void PaintVarveStretches(BoreHoleSet& set, FrmMain& form) {
+void PaintVarveStretches(BoreHoleSet& set, MainForm& form) {
   if (!set.AgeModelLoaded) return;
   PictureBox& composite = form.BoreHole(0);
   const float top = composite.ScaleTop;
@@ -95,7 +95,7 @@ void PaintVarveStretches(BoreHoleSet& set, FrmMain& form) {
   }
 }
 
-void PlotAgeControlPoints(BoreHoleSet& set, FrmMain& form) {
+void PlotAgeControlPoints(BoreHoleSet& set, MainForm& form) {
   if (!set.AgeModelLoaded) return;
   PictureBox& composite = form.BoreHole(0);
   const bool labels = !form.mnuSize(1).Checked && form.mnuShowLabCodes.Checked;
@@ -124,7 +124,7 @@ void PlotAgeControlPoints(BoreHoleSet& set, FrmMain& form) {
 }
 
 // Reference rows take no part in any age; they are shown for comparison.
-void PlotReferenceRows(BoreHoleSet& set, FrmMain& form) {
+void PlotReferenceRows(BoreHoleSet& set, MainForm& form) {
   if (!set.AgeModelLoaded || set.AgeReferenceCount < 1) return;
   PictureBox& composite = form.BoreHole(0);
   const bool labels = !form.mnuSize(1).Checked;

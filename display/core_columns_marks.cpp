@@ -33,7 +33,7 @@ void PrintAt(PictureBox& column, float x, double y, const std::string& text) {
   column.Print(text);
 }
 
-void MarkBoreHoleRow(BoreHoleSet& set, FrmMain& form, const ModelRows& rows, int hole, long r,
+void MarkBoreHoleRow(BoreHoleSet& set, MainForm& form, const ModelRows& rows, int hole, long r,
                      double offset) {
   const Single depth = rows.Depth(hole, r);
   if (depth == 9999) return;
@@ -59,7 +59,7 @@ void MarkBoreHoleRow(BoreHoleSet& set, FrmMain& form, const ModelRows& rows, int
 
 // Tie points on the composite column, with their names hanging below their
 // lines, right-aligned.
-void MarkTieRow(FrmMain& form, const ModelRows& rows, long r, double offset) {
+void MarkTieRow(MainForm& form, const ModelRows& rows, long r, double offset) {
   const Single tie = rows.Tie(r);
   if (tie == 9999) return;
   PictureBox& composite = form.BoreHole(0);
@@ -81,7 +81,7 @@ void MarkTieRow(FrmMain& form, const ModelRows& rows, long r, double offset) {
 
 }  // namespace
 
-void DrawFixedHorizon(FrmMain& form) {
+void DrawFixedHorizon(MainForm& form) {
   if (!form.mnuHorizontalBH.Checked) return;
   for (int i = 0; i <= 4; ++i) {
     PictureBox& column = form.BoreHole(i);
@@ -90,7 +90,7 @@ void DrawFixedHorizon(FrmMain& form) {
   }
 }
 
-void DrawRowMarks(BoreHoleSet& set, FrmMain& form, const ModelRows& rows) {
+void DrawRowMarks(BoreHoleSet& set, MainForm& form, const ModelRows& rows) {
   const double holeOffset = LabelOffset(form, 60, 6);
   const double tieOffset = LabelOffset(form, 60, 5);
   for (long r = 1; r <= rows.LastRow(); ++r) {

@@ -62,7 +62,7 @@ void PaintCross(PictureBox& column, float upper, float lower) {
   column.Line(0, lower, kColumnWidth, upper, kDarkGrey);
 }
 
-double LabelOffset(const FrmMain& form, double spanDivisor, double fontDivisor) {
+double LabelOffset(const MainForm& form, double spanDivisor, double fontDivisor) {
   // The height ratio is a Single, the rest whole numbers divided as Doubles.
   const Single heightRatio = static_cast<Single>(DesignFormHeight) / form.Height.Get();
   return static_cast<double>(heightRatio) * (static_cast<double>(ViewSpan) / spanDivisor) *

@@ -8,7 +8,7 @@
 
 namespace ostraline {
 
-class FrmMain;
+class MainForm;
 
 constexpr long kGrey = RGB(170, 170, 170);
 constexpr long kDarkGrey = RGB(100, 100, 100);
@@ -35,6 +35,6 @@ void PaintCross(PictureBox& column, float upper, float lower);
 // How far a label stands from its mark, in the units of the scale: it shrinks
 // as the form grows taller than it was designed, and grows with the span and
 // the font. The divisors were tuned for each kind of label.
-double LabelOffset(const FrmMain& form, double spanDivisor, double fontDivisor);
+double LabelOffset(const MainForm& form, double spanDivisor, double fontDivisor);
 
 }  // namespace ostraline

@@ -21,7 +21,7 @@ float BottomOf(const PictureBox& column) {
 // The cells are compared as text first, on purpose: the text "1005.2" sorts
 // before "998.4", and such a gap stays white.
 template <class Visit>
-void ForEachSectionGap(FrmMain& form, const ModelRows& rows, Visit visit) {
+void ForEachSectionGap(MainForm& form, const ModelRows& rows, Visit visit) {
   for (int hole = 1; hole <= 4; ++hole) {
     PictureBox& column = form.BoreHole(hole);
     for (long r = 1; r <= rows.LastRow() - 1; ++r) {
@@ -37,7 +37,7 @@ void ForEachSectionGap(FrmMain& form, const ModelRows& rows, Visit visit) {
 
 }  // namespace
 
-void PaintAboveCore(FrmMain& form, const ModelRows& rows) {
+void PaintAboveCore(MainForm& form, const ModelRows& rows) {
   for (int hole = 1; hole <= 4; ++hole) {
     PictureBox& column = form.BoreHole(hole);
     const long first = rows.NextSectionStart(hole, 0);
@@ -53,7 +53,7 @@ void PaintAboveCore(FrmMain& form, const ModelRows& rows) {
   }
 }
 
-void PaintCompositeColumn(FrmMain& form, const ModelRows& rows) {
+void PaintCompositeColumn(MainForm& form, const ModelRows& rows) {
   PictureBox& composite = form.BoreHole(0);
   const float top = TopOf(composite);
   const float bottom = BottomOf(composite);
@@ -64,21 +64,21 @@ void PaintCompositeColumn(FrmMain& form, const ModelRows& rows) {
   PaintBand(composite, rows.Tie(rows.LastRow()), bottom, kGrey);
 }
 
-void PaintBelowCore(BoreHoleSet& set, FrmMain& form) {
+void PaintBelowCore(BoreHoleSet& set, MainForm& form) {
   for (int hole = 1; hole <= 4; ++hole) {
     PictureBox& column = form.BoreHole(hole);
     PaintBand(column, set.CoreBottom(hole), BottomOf(column), kGrey);
   }
 }
 
-void PaintSectionGaps(FrmMain& form, const ModelRows& rows) {
+void PaintSectionGaps(MainForm& form, const ModelRows& rows) {
   ForEachSectionGap(form, rows, [](PictureBox& column, Single end, Single start) {
     PaintBand(column, end, start, kGrey);
   });
 }
 
 // A very long missing stretch stays plain grey.
-void CrossSectionGaps(FrmMain& form, const ModelRows& rows) {
+void CrossSectionGaps(MainForm& form, const ModelRows& rows) {
   ForEachSectionGap(form, rows, [](PictureBox& column, Single end, Single start) {
     if (start - end < 2000) PaintCross(column, end, start);
   });

@@ -59,7 +59,7 @@ void PaintPiecesOf(BoreHoleSet& set, int hole, PictureBox& column, const ModelRo
 
 }  // namespace
 
-void PaintSplicedParts(BoreHoleSet& set, FrmMain& form, const ModelRows& rows) {
+void PaintSplicedParts(BoreHoleSet& set, MainForm& form, const ModelRows& rows) {
   const Single start = FirstTie(rows);
   // Before the first tie of bore hole A, From is 0; each later bore hole
   // starts with the From the one before it left, as one variable serves all.

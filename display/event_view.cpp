@@ -50,7 +50,7 @@ void PaintVoid(PictureBox& column, const EventEdges& edges) {
   column.Line(0, edges.lower, column.ScaleWidth, edges.upper, kDarkGrey);
 }
 
-PictureBox& HoleColumn(BoreHoleSet& set, FrmMain& form, long row) {
+PictureBox& HoleColumn(BoreHoleSet& set, MainForm& form, long row) {
   return form.BoreHole(BHNo(set, set.EventList(1, row)));
 }
 
@@ -84,7 +84,7 @@ std::string GetTephraName(const std::string& text) {
 }
 
 void DrawEvents(BoreHoleSet& set) {
-  FrmMain& form = *frmMain;
+  MainForm& form = *frmMain;
   ChooseEventColumns();
   PictureBox& composite = form.BoreHole(0);
   const float top = composite.ScaleTop;

@@ -100,7 +100,7 @@ void MoveTargetToSampling(FrmDivider& form, double s0, double s1) {
 }  // namespace
 
 void FrmDivider::Divide() {
-  FrmMain& main = *frmMain;
+  MainForm& main = *frmMain;
   if (main.Label2.Top < main.Line2(0).Y1) {
     Option1.Value = true;
   } else {

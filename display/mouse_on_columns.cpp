@@ -30,7 +30,7 @@ bool Near(double a, double b) {
   return (a - b) * (a - b) < tolerance * tolerance;
 }
 
-void ShowAgePoints(FrmMain& form, int index, Single x, Single y) {
+void ShowAgePoints(MainForm& form, int index, Single x, Single y) {
   for (long row = 1; row <= AgeModelCount; ++row) {
     const double depth = Val(AgeModel(5, row));
     if (!(std::abs(depth - y) < static_cast<double>(ViewSpan) * 0.003)) continue;
@@ -40,7 +40,7 @@ void ShowAgePoints(FrmMain& form, int index, Single x, Single y) {
   }
 }
 
-void ShowRows(FrmMain& form, int index, Single y) {
+void ShowRows(MainForm& form, int index, Single y) {
   for (long row = 1; row <= LastRow; ++row) {
     const double depth = Val(ModelCell(DepthAxis, index, 2, row));
     if (index != 0 && Near(depth, y)) {
@@ -59,7 +59,7 @@ void TakeBrackets(int index, Single y) {
   TieBelowLabel = ModelCell(0, index, 0, TieRowBelow);
 }
 
-void ClickOnBoreHole(FrmMain& form, int index, int button, int shift, Single x, Single y) {
+void ClickOnBoreHole(MainForm& form, int index, int button, int shift, Single x, Single y) {
   SuspendTrinity = button == 2;
   ClickedHole = HoleName(index);
   // Raw numbers whatever the scale.
@@ -98,7 +98,7 @@ void ClickOnBoreHole(FrmMain& form, int index, int button, int shift, Single x, 
   DrivenBy = 0;
 }
 
-void ClickOnComposite(FrmMain& form, int button, Single y) {
+void ClickOnComposite(MainForm& form, int button, Single y) {
   DrivenBy = 2;
   if (button == 1) {
     if (form.Option2(1).Value) {
@@ -120,7 +120,7 @@ void ClickOnComposite(FrmMain& form, int button, Single y) {
 
 void MouseMoveProcedure(int Index, int /*Button*/, int /*Shift*/, Single X, Single Y) {
   try {
-    FrmMain& form = *frmMain;
+    MainForm& form = *frmMain;
     if (Y > CoreBottom(Index)) return;
     ShowAgePoints(form, Index, X, Y);
     if (Index == 5) return;
@@ -134,7 +134,7 @@ void MouseMoveProcedure(int Index, int /*Button*/, int /*Shift*/, Single X, Sing
 
 void MouseDownProcedure(int Index, int Button, int Shift, Single X, Single Y) {
   try {
-    FrmMain& form = *frmMain;
+    MainForm& form = *frmMain;
     if (DividerOpen) {
       DrivenBy = 0;
       return;

@@ -5,7 +5,7 @@
 
 namespace ostraline {
 
-class FrmMain;
+class MainForm;
 
 // Index 0 the composite column, 1..4 the bore holes, 5 the scale strip.
 // Both leave silently on a failure.
@@ -13,6 +13,6 @@ void MouseMoveProcedure(int Index, int Button, int Shift, Single X, Single Y);
 void MouseDownProcedure(int Index, int Button, int Shift, Single X, Single Y);
 
 // The strip's left click: shows or hides the composite column by the form's width.
-void ToggleCompositeColumn(FrmMain& form);
+void ToggleCompositeColumn(MainForm& form);
 
 }  // namespace ostraline

@@ -18,7 +18,7 @@ float Right(const Control& control) {
 
 // The edge cuts a control further right: the form grows, back to the width
 // it had before it was narrowed if it was.
-void Grow(FrmMain& form, float width) {
+void Grow(MainForm& form, float width) {
   form.Width = width;
   if (FormNarrowed) {
     form.Width = RestoreWidth;
@@ -30,7 +30,7 @@ void Grow(FrmMain& form, float width) {
 
 // A click in a gap cuts the form back; a form already narrower than the
 // row's limit keeps the new width as the one to return to.
-void Narrow(FrmMain& form, float limit, float width) {
+void Narrow(MainForm& form, float limit, float width) {
   if (FormNarrowed) RestoreWidth = form.Width;
   if (form.Width < limit) {
     FormNarrowed = false;
@@ -51,7 +51,7 @@ struct Neighbours {
   float narrowWidth;  // when the click lies in the gap between A and B
 };
 
-std::array<Neighbours, 9> Rows(FrmMain& form) {
+std::array<Neighbours, 9> Rows(MainForm& form) {
   const auto& b = form.BoreHole;
   const auto& p = form.Picture1;
   const float base = static_cast<float>(BaseFormWidth);
@@ -69,7 +69,7 @@ std::array<Neighbours, 9> Rows(FrmMain& form) {
 
 }  // namespace
 
-void ToggleCompositeColumn(FrmMain& form) {
+void ToggleCompositeColumn(MainForm& form) {
   if (Right(form.BoreHole(0)) <= form.Width) {
     Narrow(form, form.Picture1(0).Left, form.BoreHole(0).Left - 150);
   } else {

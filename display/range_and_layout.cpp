@@ -24,7 +24,7 @@ constexpr float kFormChrome = 1320;
 constexpr float kPanelBoxHeight = 285;
 
 // The target's depth text by the input mode; false leaves the view where it is.
-bool TargetText(FrmMain& form, std::string& text) {
+bool TargetText(MainForm& form, std::string& text) {
   if (form.Option1(0).Value) {
     text = form.Label1(8).Caption;
     return true;
@@ -43,7 +43,7 @@ bool TargetText(FrmMain& form, std::string& text) {
 }
 
 // Puts the target in the middle of every column and of the scale strip.
-void RecentreOnTarget(FrmMain& form) {
+void RecentreOnTarget(MainForm& form) {
   std::string text;
   if (!TargetText(form, text)) return;
   const Single top = CSng(Val(text) - static_cast<double>(ViewSpan) / 2);
@@ -51,7 +51,7 @@ void RecentreOnTarget(FrmMain& form) {
 }
 
 // The proxy panels share the depth window of the composite column.
-void PanelsFollowColumns(FrmMain& form) {
+void PanelsFollowColumns(MainForm& form) {
   const float top = form.BoreHole(0).ScaleTop;
   const float height = form.BoreHole(0).ScaleHeight;
   for (int p = 0; p <= 4; ++p) {
@@ -67,7 +67,7 @@ void RedrawColumns() {
 }  // namespace
 
 void SetViewSpan(Integer Source, Integer Span) {
-  FrmMain& form = *frmMain;
+  MainForm& form = *frmMain;
   // The Duo's columns take the span here too once the Duo has its own set.
   if (Source != 1 && !form.mnuLink.Checked) return;
   Integer span = Span;

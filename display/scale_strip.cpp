@@ -111,7 +111,7 @@ void MarkFixedHorizon(PictureBox& strip) {
 }  // namespace
 
 void DrawBH5(BoreHoleSet& set) {
-  FrmMain& form = *frmMain;
+  MainForm& form = *frmMain;
   PictureBox& strip = form.BoreHole(5);
   const PictureBox& composite = form.BoreHole(0);
   // Every tick of the age scale is a lookup in the age-depth model.

@@ -26,7 +26,7 @@ void MarkTarget(PictureBox& panel) {
 }  // namespace
 
 void MarkTargetsOnPanels() {
-  FrmMain& form = *frmMain;
+  MainForm& form = *frmMain;
   for (int i = 0; i <= 4; ++i) {
     if (ProxyLoaded(i)) MarkTarget(form.Picture1(i));
   }
@@ -34,7 +34,7 @@ void MarkTargetsOnPanels() {
 
 // The Duo form's overlay joins here once the Duo has its columns.
 void TargetLine(Single y) {
-  FrmMain& form = *frmMain;
+  MainForm& form = *frmMain;
   if (form.mnuHorizontal.Checked) {
     for (int i = 0; i <= 4; ++i) {
       LineAcross(form.BoreHole(i), y);
@@ -55,7 +55,7 @@ void TargetLine(Single y) {
 }
 
 void ClearTargetLine() {
-  FrmMain& form = *frmMain;
+  MainForm& form = *frmMain;
   for (int i = 0; i <= 4; ++i) {
     form.BoreHole(i).Cls();
     form.Picture1(i).Cls();

@@ -72,7 +72,7 @@ void ErrorsBetween(BoreHoleSet& set, long lower, long upper, double part, double
 }
 
 void SayInterpolatedBy(BoreHoleSet& set, const char* caption) {
-  if (set.DriveIndex != 0) frmMain->Label9.Caption = caption;
+  if (set.DriveIndex != 0) MainFormOf(set).Label9.Caption = caption;
 }
 
 // The varve record must span both rows of the pair, not only the point looked up.
@@ -123,13 +123,14 @@ Variant EfdFromAgeByVarves(BoreHoleSet& set, Single age, long lower, long upper)
   const Variant efd = CDToEFD(set, CSng(depthLower + offset));
   // Here the errors go by depth, not by age.
   ErrorsBetween(set, lower, upper, offset, CellDouble(set, kDepth, upper) - depthLower);
-  frmMain->ProgressBar1.Value = 0;
-  frmMain->ProgressBar1.Visible = false;
+  MainForm& form = MainFormOf(set);
+  form.ProgressBar1.Value = 0;
+  form.ProgressBar1.Visible = false;
   Screen.SetMousePointer(0);
   return efd;
 }
 
-void ShowUnit(BoreHoleSet& set, FrmMain& form) {
+void ShowUnit(BoreHoleSet& set, MainForm& form) {
   const std::string& unit = set.AgeModel(kUnit, set.AgeRowLower);
   // Two control points in different units: no single unit can be named.
   if (unit != set.AgeModel(kUnit, set.AgeRowUpper)) {
@@ -141,7 +142,7 @@ void ShowUnit(BoreHoleSet& set, FrmMain& form) {
 
 // The errors with their confidence levels where the age was looked up from a
 // depth, and bare where it was typed in.
-void ShowErrors(BoreHoleSet& set, FrmMain& form, bool withLevels) {
+void ShowErrors(BoreHoleSet& set, MainForm& form, bool withLevels) {
   const double plus = Round(set.AgeErrorPlus, AgePrecision);
   const double minus = Round(set.AgeErrorMinus, AgePrecision);
   const std::string p = Str(plus);
@@ -244,14 +245,18 @@ std::optional<std::vector<Single>> RisingControlAges(BoreHoleSet& set) {
   return ages;
 }
 
-void FrmMain::DisplayAge() {
-  if (!AgeModelLoaded) return;
-  if (DriveIndex != 4) {
-    const Variant age = GetAgeFromCD(CSng(Val(Text2.Text)));
-    Text4.Text = Str(Round(age.ToDouble(), AgePrecision));
+void DisplayAge(BoreHoleSet& set, MainForm& form) {
+  if (!set.AgeModelLoaded) return;
+  if (set.DriveIndex != 4) {
+    const Variant age = GetAgeFromCD(set, CSng(Val(form.Text2.Text)));
+    form.Text4.Text = Str(Round(age.ToDouble(), AgePrecision));
   }
-  ShowUnit(masterSet, *this);
-  ShowErrors(masterSet, *this, true);
+  ShowUnit(set, form);
+  ShowErrors(set, form, true);
+}
+
+void FrmMain::DisplayAge() {
+  ostraline::DisplayAge(masterSet, *this);
 }
 
 void FrmMain::Text4_GotFocus() {

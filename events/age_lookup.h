@@ -31,6 +31,11 @@ inline Variant GetEFDFromAge(Single age) {
   return GetEFDFromAge(masterSet, age);
 }
 
+class MainForm;
+// The age of the form's composite depth in its age box, unless the age box
+// drives, with the unit and the errors and their confidence levels.
+void DisplayAge(BoreHoleSet& set, MainForm& form);
+
 // The ages of the control points in rising order, when between any two of
 // them the EFD of an age rises with the age: the ages rise strictly, the EFDs
 // never fall, every age, EFD and error reads as a number and no varve record

@@ -1,6 +1,7 @@
 // The age-depth model's import: the control points of age, checked against
 // the correlation model in use and placed on the composite and EFD scales.
 #include <array>
+#include <functional>
 #include <string>
 
 #include "core/depth_conversions.h"
@@ -8,9 +9,14 @@
 #include "core/import_pattern.h"
 #include "core/project_state.h"
 #include "display/core_columns.h"
+#include "duo/depth_map.h"
+#include "duo/duo_state.h"
+#include "events/age_lookup.h"
+#include "events/age_model.h"
 #include "events/copy_to_duo.h"
 #include "events/event_free_depth.h"
 #include "events/event_state.h"
+#include "forms/frm2_main.h"
 #include "forms/frm_main.h"
 #include "forms/frm_version.h"
 #include "forms/platform.h"
@@ -57,13 +63,13 @@ std::string VersionOfHeader(const std::string& cell) {
 }
 
 // Declining takes the event layers out of the depth scale for the rest of the run.
-void TakeEventLayersOut(BoreHoleSet& set, FrmMain& form) {
+void TakeEventLayersOut(BoreHoleSet& set, MainForm& form) {
   form.Command4.Enabled = true;
   set.EventCount = -9999;
   set.MergedEventCount = -9999;
 }
 
-bool ProceedDespiteVersion(BoreHoleSet& set, FrmMain& form) {
+bool ProceedDespiteVersion(BoreHoleSet& set, MainForm& form) {
   const std::string version = VersionOfHeader(set.AgeModel(5, 0));
   if (Trim(set.ModelVersion) == version) return true;
   const MsgAnswer answer = MsgBox(
@@ -111,21 +117,38 @@ void ReadControlPoints(BoreHoleSet& set, FieldReader& file, ImportProgress& prog
 
 // The master's bore holes 1 to 4, then the Duo's as 5 to 8, with a later
 // match winning, so that a name in both sets counts as the Duo's. The Duo's
-// names join this search with its parallel model.
+// own import knows its four holes also by the letters a to d, either case.
 int HoleOfName(BoreHoleSet& set, const std::string& name) {
   int hole = 9999;
+  if (set.IsDuo) {
+    const char* letters[] = {"a", "A", "b", "B", "c", "C", "d", "D"};
+    for (int j = 1; j <= 4; ++j) {
+      if (name == set.HoleName(j) || name == letters[2 * j - 2] || name == letters[2 * j - 1])
+        hole = j;
+    }
+    return hole;
+  }
   for (int j = 1; j <= 4; ++j) {
     if (name == set.HoleName(j)) hole = j;
+  }
+  for (int j = 1; j <= 4; ++j) {
+    if (name == HoleName2(j)) hole = j + 4;
   }
   return hole;
 }
 
-// Any hole beyond the master's four is looked up in the Duo's model; while no
-// parallel model has been imported its sections are not there to be found.
-Variant CompositeOfRow(int hole, const std::string& section, Single psp) {
-  if (hole > 4)
-    Fail(FailureKind::SubscriptOutOfRange, "no parallel model for bore hole " + Str(hole));
-  return CompositeFromTrinity(hole, SectionOrdinalByName(hole, section), psp);
+// A hole of the Duo in the master's model is placed on the Duo's composite
+// scale and mapped to the master's.
+Variant CompositeOfRow(BoreHoleSet& set, int hole, const std::string& section, Single psp) {
+  if (set.IsDuo || hole <= 4)
+    return CompositeFromTrinity(set, hole, SectionOrdinalByName(set, hole, section), psp);
+  // The Duo's section lookup has no handler: a hole of neither set fails there.
+  if (hole > 8) Fail(FailureKind::SubscriptOutOfRange, "bore hole " + Str(hole) + " of no set");
+  const int duoHole = hole - 4;
+  const Variant duo =
+      CompositeFromTrinity(duoSet, duoHole, SectionOrdinalByName(duoSet, duoHole, section), psp);
+  if (duo.ToDouble() == 9999) return duo;
+  return DuoToMaster(duo.ToSingle());
 }
 
 // Each control point on the composite scale and in EFD. A row given by its
@@ -140,7 +163,7 @@ void PlaceControlPoints(BoreHoleSet& set, ImportProgress& progress) {
     }
     if (set.AgeModel(2, i) != "---" && set.AgeModel(3, i) != "---" && set.AgeModel(4, i) != "---") {
       const Variant composite =
-          CompositeOfRow(hole, set.AgeModel(3, i), CSng(Val(set.AgeModel(4, i))));
+          CompositeOfRow(set, hole, set.AgeModel(3, i), CSng(Val(set.AgeModel(4, i))));
       if (composite.ToDouble() != 9999) set.AgeModel(5, i) = Str(composite.ToSingle());
     }
     set.AgeModel(11, i) = CDToEFD(set, CSng(Val(set.AgeModel(5, i)))).ToText();
@@ -157,7 +180,7 @@ std::string LevelOfHeader(const std::string& cell) {
   return {};
 }
 
-void EnableAgeControls(FrmMain& form) {
+void EnableAgeControls(MainForm& form) {
   const bool typeIn = form.Option1(0).Value;
   for (Control* control :
        std::initializer_list<Control*>{&form.Label7, &form.Label8, &form.Label9, &form.Text4}) {
@@ -165,11 +188,12 @@ void EnableAgeControls(FrmMain& form) {
   }
 }
 
-void ReportFailure(BoreHoleSet& set, FrmMain& form, const ImportProgress& progress) {
+void ReportFailure(BoreHoleSet& set, MainForm& form, const ImportProgress& progress) {
   ResetProgress(form);
   if (!progress.fileOpen) return;
-  // With the Duo closed every failure reads as a bore hole of the Duo.
-  if (DuoOpen) {
+  // With the Duo closed every failure of the master's reads as a bore hole
+  // of the Duo; the Duo's own import has the plain message.
+  if (DuoOpen || set.IsDuo) {
     ShowFormatError();
   } else {
     MsgBox("Bore hole name '" + progress.holeAtHand +
@@ -181,34 +205,46 @@ void ReportFailure(BoreHoleSet& set, FrmMain& form, const ImportProgress& progre
 
 }  // namespace
 
-void FrmMain::Command4_Click() {
+void ImportAgeModel(BoreHoleSet& set, MainForm& form, FrmVersion& versions,
+                    const std::function<void()>& finish) {
   ImportProgress progress;
   try {
-    FieldReader file = OpenDataFile(*this, progress.fileOpen);
-    AgeModelVersion = VersionDate(CommonDialog1.FileName);
-    frmVersion->Label2(4).Caption = AgeModelVersion;
+    FieldReader file = OpenDataFile(form, progress.fileOpen);
+    set.AgeModelVersion = VersionDate(form.CommonDialog1.FileName);
+    versions.Label2(4).Caption = set.AgeModelVersion;
 
-    AgeModel.Dim({{0, 11}, {0, 0}});
-    AgeReferenceRows.Dim({{0, 11}, {0, 0}});
+    set.AgeModel.Dim({{0, 11}, {0, 0}});
+    set.AgeReferenceRows.Dim({{0, 11}, {0, 0}});
     Screen.SetMousePointer(11);
-    ProgressBar1.Max = 200;
-    ProgressBar1.Visible = true;
-    StoreRecord(AgeModel, 0, ReadAgeRecord(file, progress));
-    if (!ProceedDespiteVersion(masterSet, *this)) return;
-    ReadControlPoints(masterSet, file, progress);
+    form.ProgressBar1.Max = 200;
+    form.ProgressBar1.Visible = true;
+    StoreRecord(set.AgeModel, 0, ReadAgeRecord(file, progress));
+    // The Duo's own import checks no version and reads no confidence levels.
+    if (!set.IsDuo && !ProceedDespiteVersion(set, form)) return;
+    ReadControlPoints(set, file, progress);
 
-    EnableAgeControls(*this);
-    PlaceControlPoints(masterSet, progress);
-    ErrorLevelPlus = LevelOfHeader(AgeModel(6, 0));
-    ErrorLevelMinus = LevelOfHeader(AgeModel(8, 0));
-
-    AgeModelLoaded = true;
+    EnableAgeControls(form);
+    PlaceControlPoints(set, progress);
+    if (!set.IsDuo) {
+      ErrorLevelPlus = LevelOfHeader(set.AgeModel(6, 0));
+      ErrorLevelMinus = LevelOfHeader(set.AgeModel(8, 0));
+    }
+    set.AgeModelLoaded = true;
     Screen.SetMousePointer(0);
-    DisplayAge();
+    DisplayAge(set, form);
+    finish();
+  } catch (const RuntimeFailure&) {
+    ReportFailure(set, form, progress);
+  }
+}
+
+void FrmMain::Command4_Click() {
+  ImportAgeModel(masterSet, *this, *frmVersion, [this] {
     DrawLamina();
     mnuAge.Enabled = true;
     mnuDepth.Enabled = true;
     CopyAgeModelToDuo();
+    if (EventListLoaded2 && frm2Main.IsLoaded()) EnableAgeControls(*frm2Main);
 
     Command4.Enabled = false;
     // The varve counts are the next and last file of the chain.
@@ -216,9 +252,7 @@ void FrmMain::Command4_Click() {
     if (Command5.Visible) Command5.SetFocus();
     ProgressBar1.Visible = false;
     ProgressBar1.Value = 0;
-  } catch (const RuntimeFailure&) {
-    ReportFailure(masterSet, *this, progress);
-  }
+  });
 }
 
 }  // namespace ostraline

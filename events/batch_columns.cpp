@@ -124,7 +124,7 @@ void PositionRow(FieldWriter& row, long r, const ColumnTitles& titles) {
 
 }  // namespace
 
-void WriteConvertedRows(FrmMain& form, const ColumnTitles& titles, ReplacementFile& out) {
+void WriteConvertedRows(MainForm& form, const ColumnTitles& titles, ReplacementFile& out) {
   const bool positions = FromKind == kScaleTrinity;
   const long rows = static_cast<long>(positions ? ConversionRows : ValueRows);
   auto writeRow = positions ? PositionRow : FromKind == kScaleAge ? AgeValueRow : DepthValueRow;

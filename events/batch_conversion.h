@@ -8,7 +8,7 @@
 namespace ostraline {
 
 class FrmConversion;
-class FrmMain;
+class MainForm;
 class ReplacementFile;
 
 // The sum of the codes of the boxes ticked under " To ", and the code of the
@@ -21,7 +21,7 @@ bool IsNoValue(const Variant& cell);
 
 // Composite depth and, with the event list, EFD of every row of
 // ConversionTable; the bar of the main form advances by row.
-void ConvertPositionRows(FrmMain& form);
+void ConvertPositionRows(MainForm& form);
 
 // The titles that the converted file's header row takes from the versions.
 struct ColumnTitles {
@@ -33,9 +33,9 @@ ColumnTitles MakeColumnTitles();
 
 // Column 3 of ValueTable by FromKind; false for a FromKind that no value
 // file can hold. Nothing to do for a file of positions.
-bool ConvertValuesFirstPass(FrmMain& form, const ColumnTitles& titles);
+bool ConvertValuesFirstPass(MainForm& form, const ColumnTitles& titles);
 
 // One row to a line, the header first, in the layout of FromKind and ToMask.
-void WriteConvertedRows(FrmMain& form, const ColumnTitles& titles, ReplacementFile& out);
+void WriteConvertedRows(MainForm& form, const ColumnTitles& titles, ReplacementFile& out);
 
 }  // namespace ostraline

@@ -34,7 +34,7 @@ bool IsValueFile(const FirstRecords& first) {
   return Str(Val(first[5])) == first[5];
 }
 
-void ReadPositionFile(FrmMain& form, FieldReader& file, const FirstRecords& first) {
+void ReadPositionFile(MainForm& form, FieldReader& file, const FirstRecords& first) {
   Screen.SetMousePointer(11);
   ConversionTable.Dim({{0, 5}, {0, 1}});
   for (int i = 0; i < 8; ++i) ConversionTable(i % 4, i / 4) = first[i];
@@ -64,7 +64,7 @@ Integer ScaleOfHeader(const std::string& word) {
   return kScaleEfd;
 }
 
-void ReadValueFile(FrmMain& form, FieldReader& file, const FirstRecords& first) {
+void ReadValueFile(MainForm& form, FieldReader& file, const FirstRecords& first) {
   if (!EventListLoaded) {
     MsgBox(std::string("Please import list of events. Sample file is available at ") +
                kSamplesAddress + ".",

@@ -23,7 +23,7 @@ void FrmConversion::Form_Load() {
 
 void FrmConversion::Form_Unload(int& /*cancel*/) {
   if (!frmMain.IsLoaded()) return;
-  FrmMain& main = *frmMain;
+  MainForm& main = *frmMain;
   for (CommandButton* next : {&main.Command1, &main.Command3, &main.Command4, &main.Command5}) {
     if (next->Enabled && next->Visible) {
       next->SetFocus();

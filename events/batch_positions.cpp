@@ -48,7 +48,7 @@ bool IsNoValue(const Variant& cell) {
   return value == 9999 || value == -9999;
 }
 
-void ConvertPositionRows(FrmMain& form) {
+void ConvertPositionRows(MainForm& form) {
   form.ProgressBar1.Max = static_cast<float>(ConversionRows);
   form.ProgressBar1.Value = 0;
   form.ProgressBar1.Visible = true;

@@ -13,7 +13,7 @@
 namespace ostraline {
 
 void FrmConversion::Command1_Click() {
-  FrmMain& main = *frmMain;
+  MainForm& main = *frmMain;
   bool dialogPassed = false;
   try {
     ToMask = TickedScales(*this);

@@ -17,7 +17,7 @@ ColumnTitles MakeColumnTitles() {
           "Event free depth (event list: version " + EventListVersion + ")"};
 }
 
-bool ConvertValuesFirstPass(FrmMain& form, const ColumnTitles& titles) {
+bool ConvertValuesFirstPass(MainForm& form, const ColumnTitles& titles) {
   if (FromKind == kScaleTrinity) return true;
   Variant (*convert)(Single) = nullptr;
   if (FromKind == kScaleAge) {

@@ -3,8 +3,9 @@
 
 namespace ostraline {
 
-// Leaves at once unless the master has an age model and the Duo form is open
-// with its model; called at the end of the master's age and varve imports.
+// Leaves at once unless the master has an age model, the Duo has none yet,
+// the Duo is open with its model, and both event lists stand; called at the
+// end of the master's age and varve imports and of the Duo's event import.
 void CopyAgeModelToDuo();
 
 }  // namespace ostraline

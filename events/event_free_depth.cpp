@@ -2,11 +2,14 @@
 
 #include "core/project_state.h"
 #include "events/event_state.h"
+#include "runtime/failure.h"
 #include "runtime/number_text.h"
 
 namespace ostraline {
 
-Variant CDToEFD(BoreHoleSet& set, Single cd) {
+namespace {
+
+Variant CDToEFDOfLayers(BoreHoleSet& set, Single cd) {
   if (set.EventCount == 0) return Round(cd, DepthPrecision);
   set.EventTop(1, 0) = -9999;
   set.EventBottom(1, 0) = -9999;
@@ -22,6 +25,20 @@ Variant CDToEFD(BoreHoleSet& set, Single cd) {
     break;
   }
   return Round(static_cast<double>(cd) - static_cast<double>(thickness), DepthPrecision);
+}
+
+}  // namespace
+
+Variant CDToEFD(BoreHoleSet& set, Single cd) {
+  if (!set.IsDuo) return CDToEFDOfLayers(set, cd);
+  // The Duo's has no EFD without its event list, and a failure returns the
+  // result as it stands: empty, which reads as 0.
+  if (!set.EventListLoaded) return Variant();
+  try {
+    return CDToEFDOfLayers(set, cd);
+  } catch (const RuntimeFailure&) {
+    return Variant();
+  }
 }
 
 Variant EFDToCD(BoreHoleSet& set, Single efd) {

@@ -20,9 +20,7 @@
 #include "runtime/file_names.h"
 #include "runtime/number_text.h"
 
-
 namespace ostraline {
-namespace {
 
 // Five text fields a record, the header kept in row 0 unread. The table grows
 // by one row after each record, so the counter ends one past the last row.
@@ -44,17 +42,21 @@ void ReadEventList(BoreHoleSet& set, FieldReader& file) {
 
 void DimensionLayerTables(BoreHoleSet& set) {
   const long count = set.EventCount;
+  // The Duo keeps no EFD of its layers.
+  const long lastScale = set.IsDuo ? 1 : 3;
   set.EventOrder.Dim({{0, count}});
-  set.EventTop.Dim({{0, 3}, {0, count}});
-  set.EventBottom.Dim({{0, 3}, {0, count}});
+  set.EventTop.Dim({{0, lastScale}, {0, count}});
+  set.EventBottom.Dim({{0, lastScale}, {0, count}});
 }
 
-void SetEfdControlsEnabled(FrmMain& form, bool enabled) {
+void SetEfdControlsEnabled(MainForm& form, bool enabled) {
   for (Control* control : std::initializer_list<Control*>{&form.Label1(9), &form.Label1(10),
                                                           &form.Label3, &form.Text3}) {
     control->Enabled = enabled;
   }
 }
+
+namespace {
 
 // The EFD kept beside the composite depth in the correlation tables.
 void StoreModelEfd(BoreHoleSet& set) {
@@ -68,13 +70,14 @@ void StoreModelEfd(BoreHoleSet& set) {
 }
 
 // The composite depth of one end of a row, kept to four decimals whatever the
-// depth precision of the display. Unknown sections give 9999.
+// depth precision of the display, the Duo's to that precision. Unknown
+// sections give 9999.
 Single EventDepth(BoreHoleSet& set, long row, int positionColumn) {
   const int hole = static_cast<int>(GetBH(set, set.EventList(1, row)).ToDouble());
   const int section = SectionOrdinalByName(set, hole, set.EventList(2, row));
   const Variant depth =
       CompositeFromTrinity(set, hole, section, CSng(Val(set.EventList(positionColumn, row))));
-  return CSng(Round(depth.ToDouble(), 4));
+  return CSng(Round(depth.ToDouble(), set.IsDuo ? static_cast<int>(DepthPrecision) : 4));
 }
 
 // Selection sort on the composite top. Among equal tops the first row wins,
@@ -123,51 +126,63 @@ void MergeOverlappingLayers(BoreHoleSet& set) {
 
 }  // namespace
 
-void FrmMain::Command3_Click() {
+void ImportEventList(BoreHoleSet& set, MainForm& form, FrmVersion& versions,
+                     const EventImportSteps& steps) {
   bool fileOpen = false;
   try {
-    FieldReader file = OpenDataFile(*this, fileOpen);
-    EventListVersion = VersionDate(CommonDialog1.FileName);
-    frmVersion->Label2(3).Caption = EventListVersion;
-    ReadEventList(masterSet, file);
-    DimensionLayerTables(masterSet);
+    FieldReader file = OpenDataFile(form, fileOpen);
+    if (steps.fileOpened) steps.fileOpened();
+    set.EventListVersion = VersionDate(form.CommonDialog1.FileName);
+    versions.Label2(3).Caption = set.EventListVersion;
+    ReadEventList(set, file);
+    DimensionLayerTables(set);
 
-    Command3.Enabled = false;
+    form.Command3.Enabled = false;
     // The overlap options are opened and never read: the merge always forms the union.
     for (Control* control :
-         std::initializer_list<Control*>{&Label5, &Option3(0), &Option3(1), &mnuOLDuo, &mnuAlign}) {
+         std::initializer_list<Control*>{&form.Label5, &form.Option3(0), &form.Option3(1)}) {
       control->Enabled = true;
     }
-    EventListLoaded = true;
-    CombineAndSortEvents();
+    for (Control* control : steps.opened) control->Enabled = true;
+    set.EventListLoaded = true;
+    CombineAndSortEvents(set, form);
+    steps.placeModel();
+    form.Refresh();
 
+    if (form.Option1(0).Value) {
+      SetEfdControlsEnabled(form, true);
+    } else if (form.Option1(2).Value) {
+      SetEfdControlsEnabled(form, false);
+    }
+    form.Command4.Enabled = true;
+    form.Command4.SetFocus();
+    if (steps.finish) steps.finish();
+  } catch (const RuntimeFailure&) {
+    ResetProgress(form);
+    if (fileOpen) ShowFormatError();
+    form.Command3.Enabled = true;
+    // EventListLoaded stays: a failure in the merge leaves it set, and the
+    // conversions then act as if no layer existed.
+    set.EventCount = -9999;
+    set.MergedEventCount = -9999;
+  }
+}
+
+void FrmMain::Command3_Click() {
+  EventImportSteps steps;
+  steps.opened = {&mnuOLDuo, &mnuAlign};
+  steps.placeModel = [] {
     StoreModelEfd(masterSet);
     for (long i = 1; i <= MergedEventCount; ++i) {
       EventTop(2, i) = CDToEFD(EventTop(1, i)).ToSingle();
       EventBottom(2, i) = CDToEFD(EventBottom(1, i)).ToSingle();
     }
     DrawLamina();
-    Refresh();
-
-    if (Option1(0).Value) {
-      SetEfdControlsEnabled(*this, true);
-    } else if (Option1(2).Value) {
-      SetEfdControlsEnabled(*this, false);
-    }
-    Command4.Enabled = true;
-    Command4.SetFocus();
-  } catch (const RuntimeFailure&) {
-    ResetProgress(*this);
-    if (fileOpen) ShowFormatError();
-    Command3.Enabled = true;
-    // EventListLoaded stays: a failure in the merge leaves it set, and the
-    // conversions then act as if no layer existed.
-    EventCount = -9999;
-    MergedEventCount = -9999;
-  }
+  };
+  ImportEventList(masterSet, *this, *frmVersion, steps);
 }
 
-void CombineAndSortEvents(BoreHoleSet& set, FrmMain& form) {
+void CombineAndSortEvents(BoreHoleSet& set, MainForm& form) {
   if (!set.EventListLoaded) {
     ResetProgress(form);
     return;
@@ -198,7 +213,7 @@ void CombineAndSortEvents(BoreHoleSet& set, FrmMain& form) {
   for (long i = 1; i <= set.EventCount; ++i) {
     set.EventList(8, i) = CDToEFD(set, CSng(Val(set.EventList(6, i)))).ToText();
   }
-  for (long i = 1; i <= set.MergedEventCount; ++i) {
+  for (long i = 1; i <= set.MergedEventCount && !set.IsDuo; ++i) {
     set.EventTop(2, i) = CDToEFD(set, CSng(Val(Str(set.EventTop(1, i))))).ToSingle();
     set.EventBottom(2, i) = CDToEFD(set, CSng(Val(Str(set.EventBottom(1, i))))).ToSingle();
   }

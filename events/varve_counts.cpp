@@ -7,6 +7,7 @@
 #include "core/import_pattern.h"
 #include "core/project_state.h"
 #include "display/core_columns.h"
+#include "duo/duo_state.h"
 #include "events/copy_to_duo.h"
 #include "events/event_free_depth.h"
 #include "events/event_state.h"
@@ -20,7 +21,7 @@ namespace ostraline {
 namespace {
 
 // Row 0 stays zero, so the first marker's count is measured from 0.
-void ReadVarveRows(BoreHoleSet& set, FrmMain& form, FieldReader& file) {
+void ReadVarveRows(BoreHoleSet& set, MainForm& form, FieldReader& file) {
   set.VarveCounts.Dim({{0, 1}, {0, 0}});
   Long rows = 0;
   while (!file.Eof()) {
@@ -79,30 +80,42 @@ Single VarveOffset(BoreHoleSet& set, Single lowerDepth, Single upperDepth, Singl
   return set.VarveCounts(0, i - 1) - set.VarveCounts(0, anchor);
 }
 
-void FrmMain::Command5_Click() {
+bool ImportVarveCounts(BoreHoleSet& set, MainForm& form, FrmVersion& versions) {
   bool fileOpen = false;
   try {
-    FieldReader file = OpenDataFile(*this, fileOpen);
+    FieldReader file = OpenDataFile(form, fileOpen);
     Screen.SetMousePointer(11);
-    ProgressBar1.Max = 2000;
-    ProgressBar1.Value = 0;
-    ProgressBar1.Visible = true;
+    form.ProgressBar1.Max = 2000;
+    form.ProgressBar1.Value = 0;
+    form.ProgressBar1.Visible = true;
     file.ReadText();
     file.ReadText();
-    VarveVersion = VersionDate(CommonDialog1.FileName);
-    frmVersion->Label2(5).Caption = VarveVersion;
-    ReadVarveRows(masterSet, *this, file);
-    SetVarveLimits(masterSet);
+    set.VarveVersion = VersionDate(form.CommonDialog1.FileName);
+    versions.Label2(5).Caption = set.VarveVersion;
+    ReadVarveRows(set, form, file);
+    SetVarveLimits(set);
+    return true;
+  } catch (const RuntimeFailure&) {
+    ResetProgress(form);
+    if (fileOpen) ShowFormatError();
+    return false;
+  }
+}
 
+void FrmMain::Command5_Click() {
+  if (!ImportVarveCounts(masterSet, *this, *frmVersion)) return;
+  try {
     DrawLamina();
     DisplayAge();
+    // The Duo's copy of the ages is made anew with the varves.
+    AgeModelLoaded2 = false;
     CopyAgeModelToDuo();
     Command5.Enabled = false;
     if (Text2.Enabled) Text2.SetFocus();
     ResetProgress(*this);
   } catch (const RuntimeFailure&) {
     ResetProgress(*this);
-    if (fileOpen) ShowFormatError();
+    ShowFormatError();
   }
 }
 

@@ -29,4 +29,10 @@ inline Single VarveOffset(Single lowerDepth, Single upperDepth, Single before, S
   return VarveOffset(masterSet, lowerDepth, upperDepth, before, after);
 }
 
+class MainForm;
+class FrmVersion;
+// The varve record of a set through the form's dialog, its version shown on
+// the set's version form. False after a failure, which has been reported.
+bool ImportVarveCounts(BoreHoleSet& set, MainForm& form, FrmVersion& versions);
+
 }  // namespace ostraline

@@ -1,15 +1,13 @@
 #pragma once
 // Which version of each file of the parallel set is in use.
-#include "forms/form.h"
+#include "forms/frm_version.h"
 
 namespace ostraline {
 
-class Frm2Version : public Form {
+class Frm2Version : public FrmVersion {
  public:
-  Frm2Version() : Form("frm2Version", "Version information (Duo)") {
-    Width.SetQuietly(4935);
-    Height.SetQuietly(2100);
-  }
+  Frm2Version() : FrmVersion("frm2Version", "Version information (Duo)") {}
+  void Form_Load() override;
 };
 
 inline FormRef<Frm2Version> frm2Version{"frm2Version"};

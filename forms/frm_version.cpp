@@ -2,7 +2,7 @@
 
 namespace ostraline {
 
-FrmVersion::FrmVersion() : Form("frmVersion", "Version information") {
+FrmVersion::FrmVersion(const char* name, const char* caption) : Form(name, caption) {
   // Wide enough for the version and the model's file name behind it.
   Width.SetQuietly(5880);
   Height.SetQuietly(2100);

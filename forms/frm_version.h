@@ -9,7 +9,7 @@ namespace ostraline {
 
 class FrmVersion : public Form {
  public:
-  FrmVersion();
+  FrmVersion() : FrmVersion("frmVersion", "Version information") {}
 
   Label Label3{*this, "Label3"};
   Label Label4{*this, "Label4"};
@@ -22,6 +22,9 @@ class FrmVersion : public Form {
   void Form_MouseMove(int button, int shift, float x, float y) override;
   void Label1_MouseMove(int index);
   void Label2_MouseMove(int index);
+
+ protected:
+  FrmVersion(const char* name, const char* caption);
 };
 
 inline FormRef<FrmVersion> frmVersion{"frmVersion"};

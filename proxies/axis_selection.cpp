@@ -23,7 +23,7 @@ Single CompositeFromAge(Single age) {
 
 // The main form takes the user back whichever button closed the dialog.
 void ReturnToMainForm() {
-  FrmMain& main = *frmMain;
+  MainForm& main = *frmMain;
   main.Enabled = true;
   main.ProgressBar1.Visible = false;
   main.ProgressBar1.Value = 0;
@@ -47,7 +47,7 @@ void FrmSelect::Form_Load() {
 }
 
 void FrmSelect::Command1_Click() {
-  FrmMain& main = *frmMain;
+  MainForm& main = *frmMain;
   const int p = CInt(CDbl(Label1.Caption.Get())).Get();
   PictureBox& panel = main.Picture1(p);
   panel.BackColor = kWhite;

@@ -9,14 +9,14 @@ namespace ostraline {
 namespace {
 
 // Another column: the limits are emptied so that they fit it.
-void RefitPanel(FrmMain& form, int p) {
+void RefitPanel(MainForm& form, int p) {
   form.Text5(p).Text = "";
   form.Text6(p).Text = "";
   DrawProxy(p);
   if (form.Text2.Enabled) form.Text2.SetFocus();
 }
 
-void LimitChanged(FrmMain& form, int p) {
+void LimitChanged(MainForm& form, int p) {
   PictureBox& panel = form.Picture1(p);
   if (!ProxyAxisEventsOn) {
     panel.Cls();

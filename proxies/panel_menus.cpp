@@ -17,7 +17,7 @@ void Toggle(Menu& entry) {
 }
 
 // At most one overlay stands on a panel: checking one entry clears the others.
-void ChooseSmoothing(FrmMain& form, Menu& chosen, int p) {
+void ChooseSmoothing(MainForm& form, Menu& chosen, int p) {
   if (chosen.Checked) {
     chosen.Checked = false;
   } else {

@@ -48,7 +48,7 @@ std::string RecordName(const std::string& path) {
   Fail(FailureKind::InvalidProcedureCall, "no folder in the file name");
 }
 
-void FillColumnLists(FrmMain& form, int p, const ProxyWork& work) {
+void FillColumnLists(MainForm& form, int p, const ProxyWork& work) {
   ComboBox& numerator = form.Combo3(p);
   ComboBox& denominator = form.Combo4(p);
   numerator.Clear();
@@ -95,7 +95,7 @@ void EfdPass(ProxyRecords& records, int p) {
   }
 }
 
-void EnablePanelMenus(FrmMain& form, int p) {
+void EnablePanelMenus(MainForm& form, int p) {
   for (auto* entries : {&form.mnuFlipH, &form.mnuLine, &form.mnuMarker, &form.mnuSmooth,
                         &form.mnuFlat3_, &form.mnuFlat5_, &form.mnuCopy, &form.mnuHorizontalN,
                         &form.mnuFilename, &form.mnuExport_}) {
@@ -104,7 +104,7 @@ void EnablePanelMenus(FrmMain& form, int p) {
 }
 
 // The head of the file on frmSelect: its first three fields and eight samples.
-void PreviewOnSelect(const FrmMain& form, const ProxyRecords& records, int p,
+void PreviewOnSelect(const MainForm& form, const ProxyRecords& records, int p,
                      const ProxyWork& work) {
   FrmSelect& select = *frmSelect;
   select.Label1.Caption = Str(p);

@@ -72,7 +72,7 @@ void FindRange(ProxyRecords& records, int p) {
 }
 
 // The limits from the data where the boxes are empty; what the user typed stays.
-void DefaultLimits(FrmMain& form, const ProxyRecords& records, int p) {
+void DefaultLimits(MainForm& form, const ProxyRecords& records, int p) {
   const Single smallest = records.ProxyMin(p);
   const Single largest = records.ProxyMax(p);
   Single left = 0;
@@ -112,7 +112,7 @@ void PaintBackground(BoreHoleSet& set, PictureBox& panel) {
 
 // The event layers behind the curve: ordinary ones first, tephras over them,
 // voids over both. The view is that of panel 0, which all panels share.
-void PaintEventLayers(BoreHoleSet& set, FrmMain& form, PictureBox& panel) {
+void PaintEventLayers(BoreHoleSet& set, MainForm& form, PictureBox& panel) {
   if (!set.EventListLoaded) return;
   int topColumn = EventColumnTop;
   int bottomColumn = 0;
@@ -211,7 +211,7 @@ long FirstHiddenRow(const ProxyRecords& records, int p, const PictureBox& panel)
   return hidden;
 }
 
-void SmoothingOverlays(FrmMain& form, int p, long first, long hidden) {
+void SmoothingOverlays(MainForm& form, int p, long first, long hidden) {
   if (form.mnuFlat3_(p).Checked) SmoothProxy3(p, first, hidden);
   if (form.mnuFlat5_(p).Checked) SmoothProxy5(p, first, hidden);
   if (form.mnuFlat11_(p).Checked) SmoothProxy11(p, first, hidden);
@@ -221,7 +221,7 @@ void SmoothingOverlays(FrmMain& form, int p, long first, long hidden) {
 }  // namespace
 
 void DrawProxy(BoreHoleSet& set, ProxyRecords& records, int p) {
-  FrmMain& form = *frmMain;
+  MainForm& form = *frmMain;
   PictureBox& panel = form.Picture1(p);
   const bool marker = form.mnuMarker(p).Checked;
   const bool curve = form.mnuLine(p).Checked;

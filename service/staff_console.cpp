@@ -31,7 +31,7 @@ bool IsPassword(const std::string& text) {
 
 }  // namespace
 
-void TraceText2Change(FrmMain& form) {
+void TraceText2Change(MainForm& form) {
   FrmTest& console = *frmTest;
   console.Print("frmMain.Text2_Change");
   console.Print("ActionCount: " + Str(ActionCount));

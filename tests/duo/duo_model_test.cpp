@@ -1,0 +1,200 @@
+// The Duo's parallel set: its model tied to the master's scale, the map
+// between the two composite scales, its event list and its copy of the ages.
+#include <string>
+#include <vector>
+
+#include "core/project_state.h"
+#include "duo/depth_map.h"
+#include "duo/duo_state.h"
+#include "events/age_lookup.h"
+#include "events/copy_to_duo.h"
+#include "events/event_state.h"
+#include "forms/frm2_main.h"
+#include "forms/frm_main.h"
+#include "runtime/number_text.h"
+#include "support/age_files.h"
+#include "support/fresh_program.h"
+
+namespace ostraline {
+namespace {
+
+// Ties given straight as (Duo depth, master depth); "9999" for no tie.
+void SetTies(const std::vector<std::pair<std::string, double>>& ties) {
+  LastRow2 = static_cast<long>(ties.size());
+  TieCell2.Dim({{0, 2}, {0, LastRow2}});
+  MasterDepth.Dim({{0, 2}, {0, LastRow2}});
+  for (long r = 1; r <= LastRow2; ++r) {
+    TieCell2(1, r) = ties[r - 1].first;
+    MasterDepth(1, r) = static_cast<float>(ties[r - 1].second);
+  }
+}
+
+TEST_F(FreshProgram, DuoMapStretchesBetweenTiesAndRunsOneToOneOutside) {
+  SetTies({{"100", 110}, {"150", 9999}, {"200", 230}, {"9999", 300}});
+  EXPECT_EQ(DuoToMaster(150), 170);
+  EXPECT_EQ(DuoToMaster(50), 60);
+  EXPECT_EQ(DuoToMaster(250), 280);
+  EXPECT_EQ(MasterToDuo(170), 150);
+  EXPECT_EQ(MasterToDuo(60), 50);
+  EXPECT_EQ(MasterToDuo(280), 250);
+  for (const Single sentinel : {9999.0f, -9999.0f}) {
+    EXPECT_EQ(DuoToMaster(sentinel), 9999);
+    EXPECT_EQ(MasterToDuo(sentinel), 9999);
+  }
+  // Rounded to the depth precision (one decimal).
+  EXPECT_FLOAT_EQ(DuoToMaster(133.33f), 150);
+
+  // The last row is never the lower end of a pair: between the last two
+  // ties, when the last is the model's last row, one to one from the upper.
+  SetTies({{"100", 110}, {"200", 230}});
+  EXPECT_EQ(DuoToMaster(150), 160);
+  EXPECT_EQ(DuoToMaster(50), 60);
+  // Without any tie the two scales are taken as one.
+  SetTies({{"100", 9999}, {"9999", 120}});
+  EXPECT_EQ(DuoToMaster(150), 150);
+  EXPECT_EQ(MasterToDuo(150), 150);
+}
+
+TEST_F(FreshProgram, DuoMapGoesByEventFreeDepthWhenBothListsStand) {
+  SetTies({{"100", 110}, {"200", 230}, {"9999", 9999}});
+  // A layer of 20 cm at 140 on the Duo's scale, and one far below: the
+  // stretch is 80 cm of sediment on the Duo's side against 120 on the
+  // master's, which has no layer.
+  EventListLoaded = true;
+  EventCount = 0;
+  EventListLoaded2 = true;
+  EventCount2 = 2;
+  MergedEventCount2 = 2;
+  EventTop2.Dim({{0, 1}, {0, 2}});
+  EventBottom2.Dim({{0, 1}, {0, 2}});
+  EventTop2(1, 1) = 140;
+  EventBottom2(1, 1) = 160;
+  EventTop2(1, 2) = 900;
+  EventBottom2(1, 2) = 901;
+  // Duo 180 is EFD 160, 60 of 80 into the stretch: master 110 + 90.
+  EXPECT_EQ(DuoToMaster(180), 200);
+  // Inside the layer every depth has the EFD of its top.
+  EXPECT_EQ(DuoToMaster(150), DuoToMaster(140));
+  EXPECT_EQ(MasterToDuo(200), 180);
+}
+
+// The master's sections: A-01 ties PSP 10 at 110 cm, A-02 ties PSP 20 at 230.
+class DuoProgram : public FreshProgram {
+ protected:
+  void SetUp() override {
+    FreshProgram::SetUp();
+    ImportModel(TwoSectionModel());
+    ImportEventList(kNoLayer);
+    frmMain->LaunchDuo();
+  }
+  // Bore hole E with ties at 100 and 200 cm, tied to the master's A-01 PSP 10
+  // and A-02 PSP 20; its first row names no master hole.
+  static std::string DuoModel(bool withMasterColumns) {
+    const std::vector<std::vector<std::string>> rows = {
+        {"Top", "Bore hole E (E)", "PSP", "Depth", "Core 9 (F)", "PSP", "Depth", "G (G)", "PSP",
+         "Depth", "H (H)", "PSP", "Depth", "Composite", "Kind (Lake Ostra)", "Hole", "Section",
+         "PSP"},
+        {"E", "E-01-top", "0", "90", "*", "*", "*", "*", "*", "*", "*", "*", "*", "", "-", "---",
+         "---", "---"},
+        {"E", "L1", "10", "100", "*", "*", "*", "*", "*", "*", "*", "*", "*", "100", "T", "A", "01",
+         "10"},
+        {"E", "L2", "110", "200", "*", "*", "*", "*", "*", "*", "*", "*", "*", "200", "T", "A",
+         "02", "20"},
+        {"E", "E-01-bottom", "150", "240", "*", "*", "*", "*", "*", "*", "*", "*", "*", "", "-",
+         "---", "---", "---"}};
+    std::string text;
+    for (const auto& row : rows) {
+      const std::size_t fields = withMasterColumns ? row.size() : 14;
+      for (std::size_t f = 0; f < fields; ++f) text += (f ? ",'" : "'") + row[f];
+      text += "\r\n";
+    }
+    return text;
+  }
+  void ImportDuoModel(bool withMasterColumns, MsgAnswer answer) {
+    platform.QueueFile(WriteTempFile("duo_20120101.csv", DuoModel(withMasterColumns)));
+    platform.QueueAnswer(answer);
+    frm2Main->Command1_Click();
+  }
+};
+
+TEST_F(DuoProgram, ModelTiesEachRowToTheMasterAndAsksForTheEventList) {
+  ImportDuoModel(true, MsgAnswer::No);
+  Frm2Main& duo = *frm2Main;
+  ASSERT_EQ(platform.messages.size(), 1u);
+  EXPECT_EQ(platform.messages[0].title, "Ostraline_Duo");
+  EXPECT_EQ(platform.messages[0].text,
+            "Ostraline_Duo requires 'List of event layers' for robust synchronisation. Do you "
+            "import file now?");
+  EXPECT_TRUE(DuoOpen);
+  EXPECT_EQ(LastRow2, 4);
+  EXPECT_EQ(duo.Label1(0).Caption.Get(), "Lake Ostra");
+  EXPECT_EQ(duo.Label1(2).Caption.Get(), "F (Core 9)");
+  EXPECT_EQ(MasterTrinity(1, 2), Variant("A"));
+  EXPECT_EQ(MasterDepth(0, 2), Variant("T"));
+  EXPECT_EQ(MasterDepth(1, 2).ToDouble(), 110);
+  EXPECT_EQ(MasterDepth(1, 3).ToDouble(), 230);
+  EXPECT_EQ(MasterDepth(1, 1).ToDouble(), 9999);
+  EXPECT_EQ(DuoToMaster(150), 170);
+
+  // Declined: the reminder throbs from pale to full red until the list comes.
+  EXPECT_TRUE(duo.Shape1.Visible);
+  EXPECT_TRUE(duo.Timer1.Enabled);
+  EXPECT_EQ(duo.Timer1.Interval, 30);
+  long reddest = 0;
+  long palest = 255;
+  for (int tick = 0; tick < 99; ++tick) {
+    duo.Timer1.Tick();
+    const long green = (duo.Shape1.FillColor >> 8) & 0xFF;
+    reddest = std::max(reddest, 205 - green);
+    palest = std::min(palest, 205 - green);
+  }
+  EXPECT_EQ(reddest, 205);
+  EXPECT_EQ(palest, 0);
+
+  platform.QueueFile(WriteTempFile("duo_events_20120201.csv", kNoLayer));
+  duo.Command3_Click();
+  EXPECT_TRUE(EventListLoaded2);
+  EXPECT_FALSE(duo.Shape1.Visible);
+  EXPECT_FALSE(duo.Timer1.Enabled);
+  EXPECT_TRUE(duo.Command4.Enabled);
+  // Scale 2 of the Duo's model is the master's composite depth.
+  EXPECT_EQ(Val(ModelCell2(2, 1, 2, 2)), 110);
+  EXPECT_EQ(Val(ModelCell2(2, 1, 2, 4)), DuoToMaster(CSng(Val(ModelCell2(1, 1, 2, 4)))));
+}
+
+TEST_F(DuoProgram, ModelWithoutTheMasterColumnsIsRefused) {
+  ImportDuoModel(false, MsgAnswer::No);
+  EXPECT_EQ(OnlyMessage(),
+            "Error: This is a correlation model for Ostraline ver.6 or earlier. Obtain latest "
+            "correlation model for ver.7");
+  EXPECT_FALSE(DuoOpen);
+}
+
+TEST_F(DuoProgram, AgesAreCopiedOnlyOnceBothEventListsStand) {
+  ImportDuoModel(true, MsgAnswer::No);
+  AgeModel.Dim({{0, 11}, {0, 2}});
+  const char* depths[] = {"110", "230"};
+  for (long r = 1; r <= 2; ++r) {
+    AgeModel(0, r) = "C1";
+    AgeModel(5, r) = depths[r - 1];
+    AgeModel(7, r) = std::to_string(1000 * r);
+    AgeModel(6, r) = AgeModel(8, r) = "20";
+    AgeModel(9, r) = "yr";
+  }
+  AgeModelCount = 2;
+  AgeModelLoaded = true;
+  CopyAgeModelToDuo();
+  EXPECT_FALSE(AgeModelLoaded2);
+
+  platform.QueueFile(WriteTempFile("duo_events_20120201.csv", kNoLayer));
+  frm2Main->Command3_Click();
+  EXPECT_TRUE(AgeModelLoaded2);
+  EXPECT_EQ(AgeModel2(5, 1), "100");
+  EXPECT_EQ(AgeModel2(5, 2), "200");
+  EXPECT_EQ(AgeModel2(11, 2), "200");
+  EXPECT_EQ(AgeModel2(7, 2), "2000");
+  EXPECT_EQ(GetAgeFromCD(duoSet, 150).ToDouble(), 1500);
+}
+
+}  // namespace
+}  // namespace ostraline
