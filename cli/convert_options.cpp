@@ -1,6 +1,7 @@
 #include "cli/convert_options.h"
 
 #include <map>
+#include <utility>
 
 namespace ostraline::cli {
 namespace {
@@ -28,6 +29,19 @@ std::optional<int> ScaleList(const std::string& text) {
     if (comma == std::string::npos) return sum;
     start = comma + 1;
   }
+}
+
+// The field of an option that names a file of the project.
+std::optional<std::string*> FileOption(ConvertOptions& options, const std::string& name) {
+  const std::pair<const char*, std::string*> files[] = {
+      {"--model", &options.model},        {"--events", &options.events},
+      {"--ages", &options.ages},          {"--varves", &options.varves},
+      {"--duo-model", &options.duoModel}, {"--duo-events", &options.duoEvents},
+      {"--duo-ages", &options.duoAges},   {"--duo-varves", &options.duoVarves}};
+  for (const auto& [option, field] : files) {
+    if (name == option) return field;
+  }
+  return std::nullopt;
 }
 
 }  // namespace
@@ -58,14 +72,13 @@ ParsedCommandLine ParseCommandLine(const std::vector<std::string>& args) {
       return parsed;
     } else if (name == "--ignore-version-mismatch" && !inlineValue) {
       options.ignoreVersionMismatch = true;
-    } else if (name == "--model" || name == "--events" || name == "--ages" || name == "--varves") {
-      const auto file = value();
-      if (!file) break;
-      if (file->empty()) invalid(*file);
-      (name == "--model"    ? options.model
-       : name == "--events" ? options.events
-       : name == "--ages"   ? options.ages
-                            : options.varves) = *file;
+    } else if (name == "--duo" && !inlineValue) {
+      options.duo = true;
+    } else if (const auto file = FileOption(options, name)) {
+      const auto given = value();
+      if (!given) break;
+      if (given->empty()) invalid(*given);
+      **file = *given;
     } else if (name == "--extrapolation") {
       const auto method = value();
       if (!method) break;
@@ -111,6 +124,11 @@ ParsedCommandLine ParseCommandLine(const std::vector<std::string>& args) {
     parsed.error = "--ages needs --events: the age-depth model is imported after the event list";
   } else if (!options.varves.empty() && options.ages.empty()) {
     parsed.error = "--varves needs --ages: the varve counts are imported after the age-depth model";
+  } else if (!options.duoModel.empty() && options.events.empty()) {
+    parsed.error = "--duo-model needs --events: the Duo opens once the master's event list stands";
+  } else if (options.duoModel.empty() && (options.duo || !options.duoEvents.empty() ||
+                                          !options.duoAges.empty() || !options.duoVarves.empty())) {
+    parsed.error = "--duo, --duo-events, --duo-ages and --duo-varves need --duo-model";
   } else {
     options.input = files[0];
     options.output = files[1];
@@ -120,6 +138,8 @@ ParsedCommandLine ParseCommandLine(const std::vector<std::string>& args) {
 
 const char* HelpText() {
   return R"(Usage: ostraline-convert --model FILE [--events FILE] [--ages FILE] [--varves FILE]
+                         [--duo-model FILE [--duo-events FILE] [--duo-ages FILE]
+                          [--duo-varves FILE] [--duo]]
                          [--extrapolation proportional|one-to-one]
                          [--depth-digits N] [--age-digits N]
                          [--from trinity|composite|efd|age] [--to composite,efd,age]
@@ -135,6 +155,19 @@ The project's files are imported in the order of the import chain:
                      for a data file of values
   --ages FILE        age-depth model (needs --events)
   --varves FILE      varve counts (needs --ages)
+
+The Duo, a parallel set of bore holes tied to the master's sections, opens
+after the master's files, as "Open Ostraline Duo" does:
+  --duo-model FILE   the Duo's correlation model (needs --events)
+  --duo-events FILE  the Duo's list of event layers; without it the Duo's
+                     question for its event list is answered No
+  --duo-ages FILE    the Duo's own age-depth model; without it the Duo has
+                     the master's ages once both event lists stand
+  --duo-varves FILE  the Duo's varve counts
+  --duo              convert INPUT through the Duo's form: its holes E to H
+                     by its own tables, the master's through the map between
+                     the two composite scales; each composite depth is
+                     written with the master's beside it
 
 Choices:
   --extrapolation proportional|one-to-one
@@ -157,7 +190,8 @@ Choices:
 
 Messages of the program go to standard error. Exit status: 0 when OUTPUT was
 written, 1 when an import or the conversion failed (OUTPUT, if it existed, is
-left as it was), 2 for a wrong command line.
+left as it was), 2 for a wrong command line or a Duo import whose button is
+not open at its turn.
 )";
 }
 

@@ -11,6 +11,13 @@ struct ConvertOptions {
   std::string events;
   std::string ages;
   std::string varves;
+  // The Duo's parallel set, opened after the master's files are imported.
+  std::string duoModel;
+  std::string duoEvents;
+  std::string duoAges;
+  std::string duoVarves;
+  // INPUT converted by the Duo's form instead of the master's.
+  bool duo = false;
   bool oneToOne = false;
   int depthDigits = 2;
   int ageDigits = 0;

@@ -5,7 +5,10 @@
 #include <string>
 
 #include "core/project_state.h"
+#include "duo/duo_state.h"
 #include "events/batch_state.h"
+#include "forms/frm2_conversion.h"
+#include "forms/frm2_main.h"
 #include "forms/frm_conversion.h"
 #include "forms/frm_main.h"
 #include "forms/scripted_platform.h"
@@ -26,25 +29,36 @@ const char* ScaleName(int code) {
   }
 }
 
-// The scripted dialogs, with the one question a conversion can meet, the
-// version warning of the age-depth model, answered from the command line.
+// The scripted dialogs, with the two questions a conversion can meet
+// answered from the command line: the version warning of the age-depth
+// model, and the Duo's question for its event list.
 class ConsolePlatform : public ScriptedPlatform {
  public:
-  explicit ConsolePlatform(bool answerYes) : answerYes_(answerYes) {}
+  ConsolePlatform(bool ignoreVersions, bool duoEvents)
+      : ignoreVersions_(ignoreVersions), duoEvents_(duoEvents) {}
   MsgAnswer MessageBox(const std::string& text, const std::string& title, MsgIcon icon,
                        MsgButtons buttons) override {
-    if (buttons == MsgButtons::YesNo) QueueAnswer(answerYes_ ? MsgAnswer::Yes : MsgAnswer::No);
+    if (buttons == MsgButtons::YesNo) {
+      const bool yes = title == "Ostraline_Duo" ? duoEvents_ : ignoreVersions_;
+      QueueAnswer(yes ? MsgAnswer::Yes : MsgAnswer::No);
+    }
     return ScriptedPlatform::MessageBox(text, title, icon, buttons);
   }
 
  private:
-  bool answerYes_;
+  bool ignoreVersions_;
+  bool duoEvents_;
 };
+
+// Exit status of a Duo import whose button is not open at its turn.
+constexpr int kRefused = 2;
 
 class Conversion {
  public:
   Conversion(const ConvertOptions& options, std::ostream& messages)
-      : options_(options), messages_(messages), platform_(options.ignoreVersionMismatch) {
+      : options_(options),
+        messages_(messages),
+        platform_(options.ignoreVersionMismatch, !options.duoEvents.empty()) {
     SetPlatform(&platform_);
     platform_.onMessage = [this](const MessageRecord& message) { Tell(message); };
   }
@@ -52,7 +66,8 @@ class Conversion {
 
   int Run() {
     for (const std::string* file :
-         {&options_.model, &options_.events, &options_.ages, &options_.varves, &options_.input}) {
+         {&options_.model, &options_.events, &options_.ages, &options_.varves, &options_.duoModel,
+          &options_.duoEvents, &options_.duoAges, &options_.duoVarves, &options_.input}) {
       if (!file->empty() && !std::ifstream(*file, std::ios::binary)) {
         return Failed("cannot open " + *file);
       }
@@ -81,17 +96,23 @@ class Conversion {
       return 1;
     }
 
+    if (!options_.duoModel.empty()) {
+      if (const int status = OpenDuo(main); status != 0) return status;
+    }
+
     Step("data file " + options_.input);
     platform_.QueueFile(options_.input);
-    main.Command2_Click();
-    if (errorShown_ || !frmConversion.IsLoaded()) return Failed("not read");
-    FrmConversion& form = *frmConversion;
+    MainForm& reader = options_.duo ? static_cast<MainForm&>(*frm2Main) : main;
+    reader.Command2.Click();
+    FormSlot& slot = options_.duo ? static_cast<FormSlot&>(frm2Conversion) : frmConversion;
+    if (errorShown_ || !slot.IsLoaded()) return Failed("not read");
+    FrmConversion& form = static_cast<FrmConversion&>(slot.GetForm());
     if (!ChooseScales(form)) return 1;
 
     Step("output " + options_.output);
     platform_.QueueFile(options_.output);
     form.Command1_Click();
-    if (errorShown_ || frmConversion.IsLoaded()) return Failed("not written");
+    if (errorShown_ || slot.IsLoaded()) return Failed("not written");
     return 0;
   }
 
@@ -127,6 +148,40 @@ class Conversion {
     if (!button.Enabled) return true;
     Failed("not imported");
     return false;
+  }
+
+  // "Open Ostraline Duo", then the Duo's own import chain. Its event list
+  // comes with the question at the end of its model's import.
+  int OpenDuo(FrmMain& main) {
+    main.LaunchDuo();
+    Frm2Main& duo = *frm2Main;
+    Step("parallel correlation model " + options_.duoModel);
+    platform_.QueueFile(options_.duoModel);
+    if (!options_.duoEvents.empty()) platform_.QueueFile(options_.duoEvents);
+    duo.Command1_Click();
+    if (duo.Command1.Enabled) return Failed("not imported");
+    if (!options_.duoEvents.empty() && !EventListLoaded2) {
+      Step("parallel list of event layers " + options_.duoEvents);
+      return Failed("not imported");
+    }
+    const struct {
+      const char* what;
+      const std::string& file;
+      CommandButton& button;
+      std::function<void()> click;
+    } chain[] = {
+        {"parallel age-depth model", options_.duoAges, duo.Command4, [&] { duo.Command4_Click(); }},
+        {"parallel varve counts", options_.duoVarves, duo.Command5, [&] { duo.Command5_Click(); }}};
+    for (const auto& link : chain) {
+      if (link.file.empty()) continue;
+      if (!link.button.Enabled) {
+        Step(std::string(link.what) + " " + link.file);
+        Failed("refused: its button is not open at this point of the Duo's imports");
+        return kRefused;
+      }
+      if (!Import(link.what, link.file, link.button, link.click)) return 1;
+    }
+    return 0;
   }
 
   // Through the menu where it has a handler, as a user would choose.

@@ -5,6 +5,7 @@
 #include "duo/duo_state.h"
 #include "events/age_lookup.h"
 #include "events/age_model.h"
+#include "events/batch_conversion.h"
 #include "events/event_state.h"
 #include "events/varve_counts.h"
 #include "forms/frm2_main.h"
@@ -70,6 +71,10 @@ void Frm2Main::Command4_Click() {
     ProgressBar1.Visible = false;
     ProgressBar1.Value = 0;
   });
+}
+
+void Frm2Main::Command2_Click() {
+  ConvertFromDataFile(duoSet, *this);
 }
 
 void Frm2Main::Command5_Click() {

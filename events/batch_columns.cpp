@@ -3,12 +3,14 @@
 #include <string>
 
 #include "core/project_state.h"
+#include "duo/depth_map.h"
 #include "events/age_lookup.h"
 #include "events/batch_conversion.h"
 #include "events/batch_output_file.h"
 #include "events/batch_state.h"
 #include "events/event_free_depth.h"
 #include "events/event_state.h"
+#include "forms/frm2_main.h"
 #include "forms/frm_main.h"
 #include "runtime/field_reader.h"
 #include "runtime/number_text.h"
@@ -32,17 +34,17 @@ struct AgeCells {
   Variant unit;
 };
 
-AgeCells AgeOfEfd(const Variant& efdCell) {
+AgeCells AgeOfEfd(BoreHoleSet& set, const Variant& efdCell) {
   const Single efd = CSng(NumberOf(efdCell));
-  const double age = GetAgeFromEFD(efd).ToDouble();
-  AgeCells cells{CSng(Round(age, AgePrecision)), CSng(Round(AgeErrorPlus, AgePrecision)),
-                 CSng(Round(AgeErrorMinus, AgePrecision)), Variant()};
+  const double age = GetAgeFromEFD(set, efd).ToDouble();
+  AgeCells cells{CSng(Round(age, AgePrecision)), CSng(Round(set.AgeErrorPlus, AgePrecision)),
+                 CSng(Round(set.AgeErrorMinus, AgePrecision)), Variant()};
   if (efd == 9999 || efd == -9999) {
     // No rows were looked up: the unit column carries the missing EFD's cell
     // as it stands, text or number.
     cells.unit = efdCell;
-  } else if (AgeModel(9, AgeRowLower) == AgeModel(9, AgeRowUpper)) {
-    cells.unit = AgeModel(9, AgeRowUpper);
+  } else if (set.AgeModel(9, set.AgeRowLower) == set.AgeModel(9, set.AgeRowUpper)) {
+    cells.unit = set.AgeModel(9, set.AgeRowUpper);
   } else {
     // The two control points give their ages in different units.
     cells.unit = "Hybrid unit";
@@ -62,53 +64,71 @@ void ErrorCells(FieldWriter& row, const AgeCells& cells) {
   row.Value(cells.unit);
 }
 
-void AgeColumns(FieldWriter& row, bool header, const ColumnTitles& titles, const Variant& efd) {
+void AgeColumns(BoreHoleSet& set, FieldWriter& row, bool header, const ColumnTitles& titles,
+                const Variant& efd) {
   if (header) {
     row.Text(titles.age);
     ErrorTitles(row);
     return;
   }
-  const AgeCells cells = AgeOfEfd(efd);
+  const AgeCells cells = AgeOfEfd(set, efd);
   row.Number(cells.age);
   ErrorCells(row, cells);
 }
 
+// The Duo writes beside each of its composite depths the master's, under
+// the master's name; a missing depth maps to 9999.
+void MasterColumn(const BoreHoleSet& set, FieldWriter& row, bool header, const Variant& duoCd) {
+  if (!set.IsDuo) return;
+  if (header) {
+    row.Text("Composite depth (" + frm2Main->Label1(0).Caption.Get() + ")");
+  } else {
+    row.Number(DuoToMaster(CSng(NumberOf(duoCd))));
+  }
+}
+
 // A value that is a depth: label, value, the other depth when both are
 // ticked, then the age of the row's EFD.
-void DepthValueRow(FieldWriter& row, long r, const ColumnTitles& titles) {
+void DepthValueRow(BoreHoleSet& set, FieldWriter& row, long r, const ColumnTitles& titles) {
   const bool header = r == 0;
   row.Value(ValueTable(1, r));
   row.Value(ValueTable(2, r));
-  if (Wants(kScaleComposite) && Wants(kScaleEfd)) row.Value(ValueTable(3, r));
+  if (FromKind == kScaleComposite) MasterColumn(set, row, header, ValueTable(2, r));
+  if (Wants(kScaleComposite) && Wants(kScaleEfd)) {
+    row.Value(ValueTable(3, r));
+    if (FromKind == kScaleEfd) MasterColumn(set, row, header, ValueTable(3, r));
+  }
   if (Wants(kScaleAge)) {
     const Variant& efd = FromKind == kScaleComposite ? ValueTable(3, r) : ValueTable(2, r);
-    AgeColumns(row, header, titles, efd);
+    AgeColumns(set, row, header, titles, efd);
   }
 }
 
 // A value that is an age: the age as given and its errors first, then the
 // depths, composite before EFD.
-void AgeValueRow(FieldWriter& row, long r, const ColumnTitles& titles) {
+void AgeValueRow(BoreHoleSet& set, FieldWriter& row, long r, const ColumnTitles& titles) {
   const bool header = r == 0;
   row.Value(ValueTable(1, r));
   row.Value(ValueTable(2, r));
   if (header) {
     ErrorTitles(row);
   } else {
-    ErrorCells(row, AgeOfEfd(ValueTable(3, r)));
+    ErrorCells(row, AgeOfEfd(set, ValueTable(3, r)));
   }
   if (Wants(kScaleComposite)) {
+    const Variant cd = header ? Variant() : EFDToCD(set, CSng(NumberOf(ValueTable(3, r))));
     if (header) {
       row.Text(titles.composite);
     } else {
-      row.Value(EFDToCD(CSng(NumberOf(ValueTable(3, r)))));
+      row.Value(cd);
     }
+    MasterColumn(set, row, header, cd);
   }
   if (Wants(kScaleEfd)) row.Value(ValueTable(3, r));
 }
 
 // A position: the file's four columns, then composite depth, EFD and age.
-void PositionRow(FieldWriter& row, long r, const ColumnTitles& titles) {
+void PositionRow(BoreHoleSet& set, FieldWriter& row, long r, const ColumnTitles& titles) {
   const bool header = r == 0;
   for (int column = 0; column <= 3; ++column) row.Value(ConversionTable(column, r));
   if (Wants(kScaleComposite)) {
@@ -117,14 +137,16 @@ void PositionRow(FieldWriter& row, long r, const ColumnTitles& titles) {
     } else {
       row.Number(Round(ConversionTable(4, r).ToDouble(), DepthPrecision));
     }
+    MasterColumn(set, row, header, ConversionTable(4, r));
   }
   if (Wants(kScaleEfd)) row.Value(ConversionTable(5, r));
-  if (Wants(kScaleAge)) AgeColumns(row, header, titles, ConversionTable(5, r));
+  if (Wants(kScaleAge)) AgeColumns(set, row, header, titles, ConversionTable(5, r));
 }
 
 }  // namespace
 
-void WriteConvertedRows(MainForm& form, const ColumnTitles& titles, ReplacementFile& out) {
+void WriteConvertedRows(BoreHoleSet& set, MainForm& form, const ColumnTitles& titles,
+                        ReplacementFile& out) {
   const bool positions = FromKind == kScaleTrinity;
   const long rows = static_cast<long>(positions ? ConversionRows : ValueRows);
   auto writeRow = positions ? PositionRow : FromKind == kScaleAge ? AgeValueRow : DepthValueRow;
@@ -132,7 +154,7 @@ void WriteConvertedRows(MainForm& form, const ColumnTitles& titles, ReplacementF
   for (long r = 0; r <= rows; ++r) {
     form.ProgressBar1.Value = static_cast<float>(r);
     FieldWriter row;
-    writeRow(row, r, titles);
+    writeRow(set, row, r, titles);
     row.EndRow();
     out.Write(row.Content());
   }

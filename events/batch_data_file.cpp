@@ -5,9 +5,11 @@
 
 #include "core/import_pattern.h"
 #include "core/project_state.h"
+#include "duo/duo_state.h"
 #include "events/batch_conversion.h"
 #include "events/batch_state.h"
 #include "events/event_state.h"
+#include "forms/frm2_conversion.h"
 #include "forms/frm_conversion.h"
 #include "forms/frm_main.h"
 #include "forms/platform.h"
@@ -34,7 +36,8 @@ bool IsValueFile(const FirstRecords& first) {
   return Str(Val(first[5])) == first[5];
 }
 
-void ReadPositionFile(MainForm& form, FieldReader& file, const FirstRecords& first) {
+void ReadPositionFile(BoreHoleSet& set, MainForm& form, FieldReader& file,
+                      const FirstRecords& first) {
   Screen.SetMousePointer(11);
   ConversionTable.Dim({{0, 5}, {0, 1}});
   for (int i = 0; i < 8; ++i) ConversionTable(i % 4, i / 4) = first[i];
@@ -46,14 +49,13 @@ void ReadPositionFile(MainForm& form, FieldReader& file, const FirstRecords& fir
   }
   ConversionRows = row;
 
-  ConversionTable(4, 0) = "Composite depth (correlation model: version " + ModelVersion + ")";
-  if (EventListLoaded) {
-    ConversionTable(5, 0) = "Event free depth (event list: version " + EventListVersion + ")";
-  }
-  ConvertPositionRows(form);
+  const ColumnTitles titles = MakeColumnTitles(set);
+  ConversionTable(4, 0) = titles.composite;
+  if (set.EventListLoaded) ConversionTable(5, 0) = titles.efd;
+  ConvertPositionRows(set, form);
   ResetProgress(form);
   InputKind = kScaleTrinity;
-  frmConversion->Show();
+  ConversionFormOf(set).Show();
 }
 
 // The header's second field names the scale; any other word counts as EFD.
@@ -64,8 +66,8 @@ Integer ScaleOfHeader(const std::string& word) {
   return kScaleEfd;
 }
 
-void ReadValueFile(MainForm& form, FieldReader& file, const FirstRecords& first) {
-  if (!EventListLoaded) {
+void ReadValueFile(BoreHoleSet& set, MainForm& form, FieldReader& file, const FirstRecords& first) {
+  if (!set.EventListLoaded) {
     MsgBox(std::string("Please import list of events. Sample file is available at ") +
                kSamplesAddress + ".",
            MsgButtons::Ok, "Error", MsgIcon::Exclamation);
@@ -84,30 +86,51 @@ void ReadValueFile(MainForm& form, FieldReader& file, const FirstRecords& first)
   }
   ValueRows = row;
   InputKind = ScaleOfHeader(ValueTable(2, 0).ToText());
-  frmConversion->Show();
+  ConversionFormOf(set).Show();
 }
 
 }  // namespace
 
-void FrmMain::Command2_Click() {
+BoreHoleSet& SetOf(const FrmConversion& form) {
+  return form.ForDuo() ? duoSet : masterSet;
+}
+
+FrmConversion& ConversionFormOf(const BoreHoleSet& set) {
+  if (set.IsDuo) return *frm2Conversion;
+  return *frmConversion;
+}
+
+void UnloadConversionForm(const BoreHoleSet& set) {
+  if (set.IsDuo) {
+    frm2Conversion.Unload();
+  } else {
+    frmConversion.Unload();
+  }
+}
+
+void ConvertFromDataFile(BoreHoleSet& set, MainForm& form) {
   bool dialogPassed = false;
   try {
-    CommonDialog1.CancelError = true;
-    CommonDialog1.Filter = "DataFile(*.csv)|*.csv";
-    CommonDialog1.ShowOpen();
+    form.CommonDialog1.CancelError = true;
+    form.CommonDialog1.Filter = "DataFile(*.csv)|*.csv";
+    form.CommonDialog1.ShowOpen();
     dialogPassed = true;
-    FieldReader file = FieldReader::Open(CommonDialog1.FileName);
+    FieldReader file = FieldReader::Open(form.CommonDialog1.FileName);
     FirstRecords first;
     for (std::string& field : first) field = file.ReadText();
     if (IsValueFile(first)) {
-      ReadValueFile(*this, file, first);
+      ReadValueFile(set, form, file, first);
     } else {
-      ReadPositionFile(*this, file, first);
+      ReadPositionFile(set, form, file, first);
     }
   } catch (const RuntimeFailure&) {
     if (dialogPassed) ShowFormatError();
-    ResetProgress(*this);
+    ResetProgress(form);
   }
+}
+
+void FrmMain::Command2_Click() {
+  ConvertFromDataFile(masterSet, *this);
 }
 
 }  // namespace ostraline

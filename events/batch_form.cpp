@@ -4,6 +4,7 @@
 #include "events/batch_conversion.h"
 #include "events/batch_state.h"
 #include "events/event_state.h"
+#include "forms/frm2_main.h"
 #include "forms/frm_conversion.h"
 #include "forms/frm_main.h"
 #include "forms/platform.h"
@@ -22,8 +23,9 @@ void FrmConversion::Form_Load() {
 }
 
 void FrmConversion::Form_Unload(int& /*cancel*/) {
-  if (!frmMain.IsLoaded()) return;
-  MainForm& main = *frmMain;
+  const BoreHoleSet& set = SetOf(*this);
+  if (!(set.IsDuo ? frm2Main.IsLoaded() : frmMain.IsLoaded())) return;
+  MainForm& main = MainFormOf(set);
   for (CommandButton* next : {&main.Command1, &main.Command3, &main.Command4, &main.Command5}) {
     if (next->Enabled && next->Visible) {
       next->SetFocus();
@@ -33,13 +35,14 @@ void FrmConversion::Form_Unload(int& /*cancel*/) {
 }
 
 void FrmConversion::On_Off_buttons() {
+  const BoreHoleSet& set = SetOf(*this);
   Option1(kScaleTrinity).Enabled = true;
   for (int scale : {kScaleComposite, kScaleEfd, kScaleAge}) Option1(scale).Enabled = false;
   if (FromKind != kScaleTrinity) {
     Option1(kScaleTrinity).Enabled = false;
     Option1(kScaleComposite).Enabled = true;
-    Option1(kScaleEfd).Enabled = EventListLoaded;
-    Option1(kScaleAge).Enabled = AgeModelLoaded;
+    Option1(kScaleEfd).Enabled = set.EventListLoaded;
+    Option1(kScaleAge).Enabled = set.AgeModelLoaded;
   }
   Label1.Enabled = Option1(kScaleTrinity).Enabled.Get();
 
@@ -51,11 +54,11 @@ void FrmConversion::On_Off_buttons() {
     Check1(scale).Enabled = FromKind != scale;
     Check1(scale).Value = 1;
   }
-  if (!EventListLoaded) {
+  if (!set.EventListLoaded) {
     Check1(kScaleEfd).Enabled = false;
     Check1(kScaleEfd).Value = 0;
   }
-  if (!AgeModelLoaded) {
+  if (!set.AgeModelLoaded) {
     Check1(kScaleAge).Enabled = false;
     Check1(kScaleAge).Value = 0;
   }

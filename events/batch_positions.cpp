@@ -5,6 +5,8 @@
 #include "core/depth_conversions.h"
 #include "core/hole_lookup.h"
 #include "core/project_state.h"
+#include "duo/depth_map.h"
+#include "duo/duo_state.h"
 #include "events/batch_conversion.h"
 #include "events/batch_state.h"
 #include "events/event_free_depth.h"
@@ -16,27 +18,39 @@ namespace ostraline {
 namespace {
 
 // A bore hole by its letter or by its long title; every hole is tested, so
-// the last that matches wins. The Duo's holes E to H (5 to 8, looked up only
-// while DuoOpen) are not converted here: their names and sections live in
-// the Duo's tables, which this build does not have, so such a name is unknown.
-int HoleNumber(const std::string& name) {
+// the last that matches wins. With the Duo open the other set's holes follow
+// as 5 to 8.
+int HoleNumber(BoreHoleSet& set, BoreHoleSet& other, const std::string& name) {
   int hole = 9999;
   for (int j = 1; j <= 4; ++j) {
-    if (name == HoleName(j) || name == HoleTitle(j)) hole = j;
+    if (name == set.HoleName(j) || name == set.HoleTitle(j)) hole = j;
+  }
+  if (hole != 9999 || !DuoOpen) return hole;
+  for (int j = 1; j <= 4; ++j) {
+    if (name == other.HoleName(j) || name == other.HoleTitle(j)) hole = j + 4;
   }
   return hole;
 }
 
 // The composite depth of a PSP inside its section, the section's top and
 // bottom PSP included; 9999 for an unknown hole or section, or a PSP outside.
-Variant CompositeInSection(int hole, const std::string& sectionName, double psp) {
+Variant CompositeInSection(BoreHoleSet& set, int hole, const std::string& sectionName, double psp) {
   if (hole < 1 || hole > 4) return Integer(9999);
-  const int section = SectionOrdinalByName(hole, sectionName);
+  const int section = SectionOrdinalByName(set, hole, sectionName);
   if (section == 9999) return Integer(9999);
-  const double top = Val(ModelCell(0, hole, 1, SectionTopRow(hole, section)));
-  const double bottom = Val(ModelCell(0, hole, 1, SectionBottomRow(hole, section)));
+  const double top = Val(set.ModelCell(0, hole, 1, set.SectionTopRow(hole, section)));
+  const double bottom = Val(set.ModelCell(0, hole, 1, set.SectionBottomRow(hole, section)));
   if (psp < top || psp > bottom) return Integer(9999);
-  return CompositeFromTrinity(hole, section, CSng(psp));
+  return CompositeFromTrinity(set, hole, section, CSng(psp));
+}
+
+// A hole of the other set is placed on its scale and mapped to this one's.
+Variant CompositeOfPosition(BoreHoleSet& set, int hole, const std::string& section, double psp) {
+  if (hole < 5 || hole > 8) return CompositeInSection(set, hole, section, psp);
+  BoreHoleSet& other = set.IsDuo ? masterSet : duoSet;
+  const Variant depth = CompositeInSection(other, hole - 4, section, psp);
+  if (depth.ToDouble() == 9999) return depth;
+  return set.IsDuo ? MasterToDuo(depth.ToSingle()) : DuoToMaster(depth.ToSingle());
 }
 
 }  // namespace
@@ -48,7 +62,8 @@ bool IsNoValue(const Variant& cell) {
   return value == 9999 || value == -9999;
 }
 
-void ConvertPositionRows(MainForm& form) {
+void ConvertPositionRows(BoreHoleSet& set, MainForm& form) {
+  BoreHoleSet& other = set.IsDuo ? masterSet : duoSet;
   form.ProgressBar1.Max = static_cast<float>(ConversionRows);
   form.ProgressBar1.Value = 0;
   form.ProgressBar1.Visible = true;
@@ -59,12 +74,12 @@ void ConvertPositionRows(MainForm& form) {
       ConversionTable(4, row) = psp;
     } else {
       ConversionTable(4, row) =
-          CompositeInSection(HoleNumber(ConversionTable(1, row).ToText()),
-                             ConversionTable(2, row).ToText(), Val(psp.ToText()));
+          CompositeOfPosition(set, HoleNumber(set, other, ConversionTable(1, row).ToText()),
+                              ConversionTable(2, row).ToText(), Val(psp.ToText()));
     }
-    if (EventListLoaded) {
+    if (set.EventListLoaded) {
       const Variant cd = ConversionTable(4, row);
-      ConversionTable(5, row) = IsNoValue(cd) ? cd : CDToEFD(CSng(Val(cd.ToText())));
+      ConversionTable(5, row) = IsNoValue(cd) ? cd : CDToEFD(set, CSng(Val(cd.ToText())));
     }
   }
 }

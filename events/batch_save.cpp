@@ -13,13 +13,14 @@
 namespace ostraline {
 
 void FrmConversion::Command1_Click() {
-  MainForm& main = *frmMain;
+  BoreHoleSet& set = SetOf(*this);
+  MainForm& main = MainFormOf(set);
   bool dialogPassed = false;
   try {
     ToMask = TickedScales(*this);
     FromKind = ChosenScale(*this);
     // No lookup may write the main form's caption of the interpolation.
-    DriveIndex = 0;
+    set.DriveIndex = 0;
 
     main.CommonDialog1.CancelError = true;
     main.CommonDialog1.Filter = "DataFile(*.csv)|*.csv";
@@ -31,18 +32,19 @@ void FrmConversion::Command1_Click() {
     Screen.SetMousePointer(11);
     main.ProgressBar1.Value = 0;
     main.ProgressBar1.Visible = true;
-    const ColumnTitles titles = MakeColumnTitles();
-    if (!ConvertValuesFirstPass(main, titles)) {
-      MsgBox("Ostraline could not import the file. Please check the file format.", MsgButtons::Ok,
-             "Error", MsgIcon::Exclamation);
+    const ColumnTitles titles = MakeColumnTitles(set);
+    if (!ConvertValuesFirstPass(set, main, titles)) {
+      MsgBox(set.IsDuo ? "Ostraline could not import this file. Please check file format."
+                       : "Ostraline could not import the file. Please check the file format.",
+             MsgButtons::Ok, "Error", MsgIcon::Exclamation);
       ResetProgress(main);
-      frmConversion.Unload();
+      UnloadConversionForm(set);
       return;
     }
-    WriteConvertedRows(main, titles, out);
+    WriteConvertedRows(set, main, titles, out);
     out.Commit();
     ResetProgress(main);
-    frmConversion.Unload();
+    UnloadConversionForm(set);
   } catch (const RuntimeFailure&) {
     // The form stays open, so that the user can close the file and press again.
     ResetProgress(main);

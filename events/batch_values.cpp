@@ -11,18 +11,18 @@
 
 namespace ostraline {
 
-ColumnTitles MakeColumnTitles() {
-  return {"Age (age model: version " + AgeModelVersion + ")",
-          "Composite depth (correlation model: version " + ModelVersion + ")",
-          "Event free depth (event list: version " + EventListVersion + ")"};
+ColumnTitles MakeColumnTitles(const BoreHoleSet& set) {
+  return {"Age (age model: version " + set.AgeModelVersion + ")",
+          "Composite depth (correlation model: version " + set.ModelVersion + ")",
+          "Event free depth (event list: version " + set.EventListVersion + ")"};
 }
 
-bool ConvertValuesFirstPass(MainForm& form, const ColumnTitles& titles) {
+bool ConvertValuesFirstPass(BoreHoleSet& set, MainForm& form, const ColumnTitles& titles) {
   if (FromKind == kScaleTrinity) return true;
-  Variant (*convert)(Single) = nullptr;
+  Variant (*convert)(BoreHoleSet&, Single) = nullptr;
   if (FromKind == kScaleAge) {
-    convert = [](Single age) -> Variant {
-      return Round(GetEFDFromAge(age).ToDouble(), DepthPrecision);
+    convert = [](BoreHoleSet& s, Single age) -> Variant {
+      return Round(GetEFDFromAge(s, age).ToDouble(), DepthPrecision);
     };
   } else if (FromKind == kScaleComposite) {
     convert = CDToEFD;
@@ -36,7 +36,7 @@ bool ConvertValuesFirstPass(MainForm& form, const ColumnTitles& titles) {
   for (long row = 1; row <= ValueRows; ++row) {
     form.ProgressBar1.Value = static_cast<float>(row);
     const Variant& value = ValueTable(2, row);
-    ValueTable(3, row) = IsNoValue(value) ? value : convert(CSng(Val(value.ToText())));
+    ValueTable(3, row) = IsNoValue(value) ? value : convert(set, CSng(Val(value.ToText())));
   }
   return true;
 }

@@ -25,6 +25,7 @@ void Frm2Main::WireHandlers() {
   Command3.Click = [this] { Command3_Click(); };
   Command4.Click = [this] { Command4_Click(); };
   Command5.Click = [this] { Command5_Click(); };
+  Command2.Click = [this] { Command2_Click(); };
   Timer1.TimerEvent = [this] { Timer1_Timer(); };
 }
 

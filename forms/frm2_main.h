@@ -29,6 +29,9 @@ class Frm2Main : public MainForm {
   void Command4_Click();
   void Command5_Click();
 
+  // Batch conversion of a data file through the Duo's tables.
+  void Command2_Click();
+
  private:
   void WireHandlers();
 };

@@ -2,7 +2,7 @@
 
 namespace ostraline {
 
-FrmConversion::FrmConversion() : Form("frmConversion", "Convert from data file") {
+FrmConversion::FrmConversion(const char* name, const char* caption) : Form(name, caption) {
   Width.SetQuietly(5040);
   Height.SetQuietly(4200);
 

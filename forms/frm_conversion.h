@@ -8,7 +8,9 @@ namespace ostraline {
 
 class FrmConversion : public Form {
  public:
-  FrmConversion();
+  FrmConversion() : FrmConversion("frmConversion", "Convert from data file") {}
+  // The Duo's twin converts through the parallel set.
+  virtual bool ForDuo() const { return false; }
 
   Frame Frame1{*this, "Frame1"};
   ControlArray<OptionButton> Option1{*this, "Option1"};
@@ -25,6 +27,9 @@ class FrmConversion : public Form {
   void Option1_Click(int index);
   void Check1_Click(int index);
   void Command1_Click();
+
+ protected:
+  FrmConversion(const char* name, const char* caption);
 };
 
 inline FormRef<FrmConversion> frmConversion{"frmConversion"};

@@ -26,6 +26,18 @@ MODEL_VERSION_TEXT = "14 Mar. 2025"  # the version date that the model's file na
 EVENT_FILE = "event_layers_20250320.csv"
 AGE_FILE = "age_depth_model_20250402.csv"
 VARVE_FILE = "varve_counts_20250325.csv"
+DUO_MODEL_FILE = "duo_correlation_model_20250610.csv"
+DUO_EVENT_FILE = "duo_event_layers_20250612.csv"
+# The parallel set's holes: E and F hold sections, G and H were not drilled.
+DUO_HEADER_TITLES = {"E": "Bore hole E (E)", "F": "Core 9 (F)", "G": "Bore hole G (G)", "H": "Bore hole H (H)"}
+# The Duo's sections: the composite depth of each top, every section 150 cm long
+# and straight in its PSP; F is offset by half a section.
+DUO_SECTION_LENGTH = 150.0
+DUO_SECTION_STEP = 152.0
+DUO_FIRST_TOP = {"E": 0.0, "F": 75.0}
+DUO_DEPTH = 1450.0
+# The Duo's composite scale against the master's, at its tie points.
+DUO_SCALE, DUO_OFFSET = 0.97, 5.0
 PREFIX = "'"
 EOL = "\r\n"
 
@@ -1012,6 +1024,78 @@ def write(folder, name, data):
         f.write(data)
 
 
+# ---------------------------------------------------------------------------
+# The Duo: a parallel set of holes tied to the master's bore hole A
+# ---------------------------------------------------------------------------
+
+
+def duo_sections():
+    """(hole, name, top composite depth) of every section of E and F."""
+    found = []
+    for hole, top in DUO_FIRST_TOP.items():
+        number = 1
+        while top + DUO_SECTION_LENGTH <= DUO_DEPTH + DUO_SECTION_LENGTH / 2:
+            found.append((hole, f"{number:02d}", top))
+            top += DUO_SECTION_STEP
+            number += 1
+    return found
+
+
+def duo_holes_at(sections, z, margin=1.0):
+    """Hole -> (section name, PSP) of the Duo's sections that hold composite depth z."""
+    holes = {}
+    for hole, name, top in sections:
+        if top + margin <= z <= top + DUO_SECTION_LENGTH - margin:
+            holes[hole] = (name, round(z - top, 1))
+    return holes
+
+
+def duo_model_text(rows, stars):
+    """Every fourth tie of the master's bore hole A down to 14 m becomes a tie of the Duo,
+    at 0.97 times its composite depth plus 5 cm; the Duo's sections give the rest."""
+    sections = duo_sections()
+    master_ties = [r for r in rows if r.kind == "tie" and "A" in r.holes and r.cd is not None
+                   and 20.0 <= r.z <= 1380.0 and (id(r), "A") not in stars]
+    lines = []
+    for n, row in enumerate(master_ties[::4]):
+        section, psp = row.holes["A"]
+        z = round(DUO_SCALE * row.z + DUO_OFFSET, 1)
+        holes = duo_holes_at(sections, z)
+        if holes:
+            lines.append((z, 1, f"DT{n + 1:03d}", holes, num(z), ["T", "A", section.name, num(psp)]))
+    for hole, name, top in sections:
+        lines.append((top, 0, f"{hole}-{name}-top", {hole: (name, 0.0)}, num(top), ["---"] * 4))
+        lines.append((top + DUO_SECTION_LENGTH, 2, f"{hole}-{name}-bottom", {hole: (name, DUO_SECTION_LENGTH)},
+                      "", ["---"] * 4))
+    lines.sort(key=lambda line: (line[0], line[1]))
+
+    header = ["Splice"]
+    for hole in "EFGH":
+        header += [DUO_HEADER_TITLES[hole], "PSP (cm)", "Drilling depth (cm)"]
+    header += ["Composite depth (cm)", "Master row (Ostra A-D)", "Master bore hole", "Master section", "Master PSP (cm)"]
+    text = [csv_line(PREFIX + c for c in header)]
+    for _, kind, label, holes, cd, master in lines:
+        # E carries the composite wherever it holds the horizon.
+        cells = ["" if kind == 2 else "E" if "E" in holes else "F"]
+        for hole in "EFGH":
+            if hole in holes:
+                name, psp = holes[hole]
+                top = next(t for h, s, t in sections if h == hole and s == name)
+                cells += [label, num(psp), num(top + psp + 3.0)]
+            else:
+                cells += ["", "9999", "9999"]
+        cells.append(cd)
+        cells += master
+        text.append(csv_line(PREFIX + c for c in cells))
+    return "".join(text)
+
+
+def duo_event_text():
+    events = [("E", "02", 40.0, 43.5, "Tephra T-1"), ("F", "04", 60.0, 66.0, "Turbidite"),
+              ("E", "08", 100.0, 102.5, "Flood layer")]
+    return event_text(events)
+
+
 def main():
     folder = sys.argv[1] if len(sys.argv) > 1 else os.path.dirname(os.path.abspath(__file__))
     rng = random.Random(SEED)
@@ -1019,7 +1103,8 @@ def main():
     for hole in HOLES:
         for section in SECTIONS[hole]:
             SECTION_BY[(hole, section.name)] = section
-    text = model_text(rows, star_cells(rng, rows))
+    stars = star_cells(rng, rows)
+    text = model_text(rows, stars)
     write(folder, MODEL_FILE, text)
     model = Model(text)
 
@@ -1055,6 +1140,15 @@ def main():
     write(folder, "core_logging_bore_hole_A.csv", proxy_l3(rng))
     write(folder, "grain_size_samples.csv", proxy_l4(rng, rows))
     write(folder, "core_photo_A-05.jpg", core_photo(rng, SECTION_BY[("A", "05")], layers))
+
+    write(folder, DUO_MODEL_FILE, duo_model_text(rows, stars))
+    write(folder, DUO_EVENT_FILE, duo_event_text())
+    write(folder, "duo_positions.csv", "".join(csv_line(r) for r in [
+        ["Sample", "Bore hole", "Section", "PSP (cm)"], ["DU-001", "E", "02", "75.5"],
+        ["DU-002", "Core 9", "03", "12.25"], ["DU-003", "A", "05", "76.1"], ["DU-004", "E", "01", "9999"],
+        ["DU-005", "X", "01", "5"]]))
+    write(folder, "duo_values_composite_depth.csv", values_text(
+        "Composite depth (cm)", ["120.5", "640", "1333.3", "9999"], "DCD"))
 
 
 if __name__ == "__main__":

@@ -157,7 +157,9 @@ TEST_F(ConvertCommand, WrongCommandLinesExitWithTwo) {
         "--model model_20110305.csv --to composite,depth samples.csv out.csv",
         "--model model_20110305.csv --depth-digits 5 samples.csv out.csv",
         "--model model_20110305.csv --ages ages_20120101.csv samples.csv out.csv",
-        "--model model_20110305.csv samples.csv out.csv --from"}) {
+        "--model model_20110305.csv samples.csv out.csv --from",
+        "--model model_20110305.csv --duo-model model_20110305.csv samples.csv out.csv",
+        "--model model_20110305.csv --events events_20110401.csv --duo samples.csv out.csv"}) {
     const Outcome run = Convert(arguments);
     EXPECT_EQ(run.status, 2) << arguments;
     EXPECT_NE(run.errors.find("--help"), std::string::npos) << arguments;
@@ -191,6 +193,50 @@ TEST_F(ConvertCommand, SameBytesAsTheForms) {
   ASSERT_TRUE(platform.messages.empty());
   EXPECT_EQ(Read("out.csv"), Read("forms.csv"));
   EXPECT_NE(Read("out.csv").find("\"Age unit\"\r\n"), std::string::npos);
+}
+
+// The sample project's parallel set, converted both ways with the values of
+// samples/EXPECTED.md: by the Duo's form and by the master's with the Duo open.
+TEST_F(ConvertCommand, DuoSamplesBothWays) {
+  const std::string samples = std::string(OSTRALINE_SAMPLES) + "/";
+  const std::string project = "--model " + samples + "correlation_model_20250314.csv --events " +
+                              samples + "event_layers_20250320.csv --duo-model " + samples +
+                              "duo_correlation_model_20250610.csv --duo-events " + samples +
+                              "duo_event_layers_20250612.csv ";
+  Outcome run = Convert(project + "--duo " + samples + "duo_positions.csv out.csv");
+  EXPECT_EQ(run.status, 0) << run.errors;
+  EXPECT_EQ(Read("out.csv"),
+            "\"Sample\",\"Bore hole\",\"Section\",\"PSP (cm)\",\"Composite depth (correlation "
+            "model: version 10 Jun. 2025)\",\"Composite depth (Ostra A-D)\",\"Event free depth "
+            "(event list: version 12 Jun. 2025)\"\r\n"
+            "\"DU-001\",\"E\",\"02\",\"75.5\",227.5,229.36,224\r\n"
+            "\"DU-002\",\"Core 9\",\"03\",\"12.25\",391.25,396.22,387.75\r\n"
+            "\"DU-003\",\"A\",\"05\",\"76.1\",624.14,638.26,614.64\r\n"
+            "\"DU-004\",\"E\",\"01\",\"9999\",9999,9999,\"9999\"\r\n"
+            "\"DU-005\",\"X\",\"01\",\"5\",9999,9999,9999\r\n");
+  run = Convert(project + samples + "duo_positions.csv out.csv");
+  EXPECT_EQ(run.status, 0) << run.errors;
+  EXPECT_NE(Read("out.csv").find("\"DU-001\",\"E\",\"02\",\"75.5\",229.36,227.04\r\n"
+                                 "\"DU-002\",\"Core 9\",\"03\",\"12.25\",396.22,388.48\r\n"
+                                 "\"DU-003\",\"A\",\"05\",\"76.1\",638.27,621.3\r\n"),
+            std::string::npos);
+  run = Convert(project + "--duo --to composite,efd " + samples +
+                "duo_values_composite_depth.csv out.csv");
+  EXPECT_EQ(run.status, 0) << run.errors;
+  EXPECT_EQ(Read("out.csv"),
+            "\"Sample\",\"Composite depth (cm)\",\"Composite depth (Ostra A-D)\",\"Event free "
+            "depth (event list: version 12 Jun. 2025)\"\r\n"
+            "\"DCD-001\",\"120.5\",119.6,120.5\r\n\"DCD-002\",\"640\",654.66,630.5\r\n"
+            "\"DCD-003\",\"1333.3\",1371.98,1321.3\r\n\"DCD-004\",9999,9999,9999\r\n");
+
+  // Declining the Duo's event list leaves its age import closed: refused.
+  run = Convert("--model " + samples + "correlation_model_20250314.csv --events " + samples +
+                "event_layers_20250320.csv --duo-model " + samples +
+                "duo_correlation_model_20250610.csv --duo-ages " + samples +
+                "age_depth_model_20250402.csv --duo " + samples + "duo_positions.csv out2.csv");
+  EXPECT_EQ(run.status, 2) << run.errors;
+  EXPECT_NE(run.errors.find("refused"), std::string::npos) << run.errors;
+  EXPECT_FALSE(fs::exists(Path("out2.csv")));
 }
 
 }  // namespace

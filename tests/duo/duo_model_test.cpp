@@ -1,5 +1,7 @@
 // The Duo's parallel set: its model tied to the master's scale, the map
 // between the two composite scales, its event list and its copy of the ages.
+#include <fstream>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -9,7 +11,9 @@
 #include "events/age_lookup.h"
 #include "events/copy_to_duo.h"
 #include "events/event_state.h"
+#include "forms/frm2_conversion.h"
 #include "forms/frm2_main.h"
+#include "forms/frm_conversion.h"
 #include "forms/frm_main.h"
 #include "runtime/number_text.h"
 #include "support/age_files.h"
@@ -194,6 +198,52 @@ TEST_F(DuoProgram, AgesAreCopiedOnlyOnceBothEventListsStand) {
   EXPECT_EQ(AgeModel2(11, 2), "200");
   EXPECT_EQ(AgeModel2(7, 2), "2000");
   EXPECT_EQ(GetAgeFromCD(duoSet, 150).ToDouble(), 1500);
+}
+
+// Positions of both sets, converted by either form: the other set's holes
+// through its tables and the map. The Duo writes the master's composite
+// depth beside its own.
+TEST_F(DuoProgram, BothFormsConvertPositionsOfBothSets) {
+  ImportDuoModel(true, MsgAnswer::No);
+  platform.QueueFile(WriteTempFile("duo_events_20120201.csv", kNoLayer));
+  frm2Main->Command3_Click();
+  const std::string positions =
+      "Sample,Hole,Section,PSP\r\nS1,E,01,60\r\nS2,A,02,40\r\nS3,Q,01,10\r\n";
+  const auto convert = [&](bool duo) {
+    platform.QueueFile(WriteTempFile("samples.csv", positions));
+    if (duo) {
+      frm2Main->Command2.Click();
+    } else {
+      frmMain->Command2.Click();
+    }
+    const std::string output = WriteTempFile("converted.csv", "");
+    platform.QueueFile(output);
+    if (duo) {
+      frm2Conversion->Command1_Click();
+    } else {
+      frmConversion->Command1_Click();
+    }
+    std::ifstream in(output, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(in), {});
+  };
+  // E-01 PSP 60 lies at Duo 150, master 170; A-02 PSP 40 at master 250,
+  // below the last tie: Duo 220.
+  EXPECT_EQ(convert(true),
+            "\"Sample\",\"Hole\",\"Section\",\"PSP\","
+            "\"Composite depth (correlation model: version 01 Jan. 2012)\","
+            "\"Composite depth (Lake Ostra)\","
+            "\"Event free depth (event list: version 01 Feb. 2012)\"\r\n"
+            "\"S1\",\"E\",\"01\",\"60\",150,170,150\r\n"
+            "\"S2\",\"A\",\"02\",\"40\",220,250,220\r\n"
+            "\"S3\",\"Q\",\"01\",\"10\",9999,9999,9999\r\n");
+  EXPECT_EQ(convert(false),
+            "\"Sample\",\"Hole\",\"Section\",\"PSP\","
+            "\"Composite depth (correlation model: version 05 Mar. 2011)\","
+            "\"Event free depth (event list: version 01 Apr. 2011)\"\r\n"
+            "\"S1\",\"E\",\"01\",\"60\",170,170\r\n"
+            "\"S2\",\"A\",\"02\",\"40\",250,250\r\n"
+            "\"S3\",\"Q\",\"01\",\"10\",9999,9999\r\n");
+  EXPECT_EQ(platform.messages.size(), 1u);  // the question for the Duo's event list
 }
 
 }  // namespace

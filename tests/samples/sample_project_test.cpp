@@ -5,9 +5,12 @@
 
 #include "core/depth_conversions.h"
 #include "core/project_state.h"
+#include "duo/depth_map.h"
+#include "duo/duo_state.h"
 #include "events/age_lookup.h"
 #include "events/event_free_depth.h"
 #include "events/event_state.h"
+#include "forms/frm2_main.h"
 #include "forms/frm_main.h"
 #include "forms/frm_select.h"
 #include "proxies/proxy_records.h"
@@ -158,6 +161,26 @@ TEST_F(SampleProject, ProxyRecordsIntoTheirPanels) {
   EXPECT_EQ(ProxyRowCount(3), 147);
   EXPECT_TRUE(frmMain->Enabled);
   for (int p = 0; p <= 3; ++p) EXPECT_TRUE(ProxyLoaded(p)) << p;
+}
+
+TEST_F(SampleProject, DuoModelTiedToTheMaster) {
+  ImportThrough("correlation_model_20250314.csv", &FrmMain::Command1_Click);
+  ImportThrough("event_layers_20250320.csv", &FrmMain::Command3_Click);
+  frmMain->LaunchDuo();
+  platform.QueueFile(Sample("duo_correlation_model_20250610.csv"));
+  platform.QueueAnswer(MsgAnswer::Yes);
+  platform.QueueFile(Sample("duo_event_layers_20250612.csv"));
+  frm2Main->Command1_Click();
+  ASSERT_EQ(platform.messages.size(), 1u);  // the question for the Duo's event list
+  EXPECT_EQ(LastRow2, 57);
+  EXPECT_EQ(ModelVersion2, "10 Jun. 2025");
+  EXPECT_EQ(frm2Main->Label1(0).Caption.Get(), "Ostra A-D");
+  EXPECT_EQ(duoSet.SectionCount(1), 10);
+  EXPECT_EQ(duoSet.SectionCount(2), 9);
+  EXPECT_FLOAT_EQ(EventTop2(1, 2), 591);
+  EXPECT_FLOAT_EQ(EventBottom2(1, 3), 1166.5f);
+  EXPECT_EQ(DuoToMaster(227.5f), 229.36f);
+  EXPECT_EQ(MasterToDuo(638.268235f), 624.14f);
 }
 
 }  // namespace
