@@ -53,6 +53,10 @@ TEST_F(FreshProgram, DuoMapStretchesBetweenTiesAndRunsOneToOneOutside) {
   SetTies({{"100", 110}, {"200", 230}});
   EXPECT_EQ(DuoToMaster(150), 160);
   EXPECT_EQ(DuoToMaster(50), 60);
+  // Two ties of the same Duo depth: below them one to one from the lower row.
+  SetTies({{"100", 110}, {"200", 230}, {"200", 240}, {"9999", 9999}});
+  EXPECT_EQ(DuoToMaster(250), 290);
+  EXPECT_EQ(DuoToMaster(150), 170);
   // Without any tie the two scales are taken as one.
   SetTies({{"100", 9999}, {"9999", 120}});
   EXPECT_EQ(DuoToMaster(150), 150);
@@ -80,6 +84,10 @@ TEST_F(FreshProgram, DuoMapGoesByEventFreeDepthWhenBothListsStand) {
   // Inside the layer every depth has the EFD of its top.
   EXPECT_EQ(DuoToMaster(150), DuoToMaster(140));
   EXPECT_EQ(MasterToDuo(200), 180);
+
+  // Two ties inside the layer share its EFD: one to one from the upper.
+  SetTies({{"145", 150}, {"155", 170}, {"200", 230}, {"9999", 9999}});
+  EXPECT_EQ(DuoToMaster(150), 150);
 }
 
 // The master's sections: A-01 ties PSP 10 at 110 cm, A-02 ties PSP 20 at 230.
@@ -174,20 +182,20 @@ TEST_F(DuoProgram, ModelWithoutTheMasterColumnsIsRefused) {
   EXPECT_FALSE(DuoOpen);
 }
 
-TEST_F(DuoProgram, AgesAreCopiedOnlyOnceBothEventListsStand) {
+// The master's ages may name the Duo's holes; they reach the Duo, mapped to
+// its scale, once both event lists stand.
+TEST_F(DuoProgram, MasterAgesAreCopiedOnlyOnceBothEventListsStand) {
   ImportDuoModel(true, MsgAnswer::No);
-  AgeModel.Dim({{0, 11}, {0, 2}});
-  const char* depths[] = {"110", "230"};
-  for (long r = 1; r <= 2; ++r) {
-    AgeModel(0, r) = "C1";
-    AgeModel(5, r) = depths[r - 1];
-    AgeModel(7, r) = std::to_string(1000 * r);
-    AgeModel(6, r) = AgeModel(8, r) = "20";
-    AgeModel(9, r) = "yr";
-  }
-  AgeModelCount = 2;
-  AgeModelLoaded = true;
-  CopyAgeModelToDuo();
+  platform.messages.clear();
+  platform.QueueFile(WriteTempFile(
+      "ages_20120101.csv",
+      AgeModelText({{"M1", "A", "01", "10", "0", "20", "1000", "20", "C1", "yr", "-"},
+                    {"M2", "E", "01", "110", "0", "20", "2000", "20", "C1", "yr", "-"}})));
+  frmMain->Command4_Click();
+  EXPECT_TRUE(platform.messages.empty()) << OnlyMessage();
+  ASSERT_TRUE(AgeModelLoaded);
+  EXPECT_EQ(AgeModel(5, 1), "110");
+  EXPECT_EQ(AgeModel(5, 2), "230");  // Duo 200 on the master's scale
   EXPECT_FALSE(AgeModelLoaded2);
 
   platform.QueueFile(WriteTempFile("duo_events_20120201.csv", kNoLayer));
@@ -198,6 +206,37 @@ TEST_F(DuoProgram, AgesAreCopiedOnlyOnceBothEventListsStand) {
   EXPECT_EQ(AgeModel2(11, 2), "200");
   EXPECT_EQ(AgeModel2(7, 2), "2000");
   EXPECT_EQ(GetAgeFromCD(duoSet, 150).ToDouble(), 1500);
+}
+
+// The Duo's own ages: no version check, no confidence levels, its holes also
+// by the letters a to d; any failure is the plain format error.
+TEST_F(DuoProgram, OwnAgeModelKnowsItsHolesByLetter) {
+  platform.QueueFile(WriteTempFile("duo_20120101.csv", DuoModel(true)));
+  platform.QueueAnswer(MsgAnswer::Yes);
+  platform.QueueFile(WriteTempFile("duo_events_20120201.csv", kNoLayer));
+  frm2Main->Command1_Click();
+  ASSERT_TRUE(EventListLoaded2);
+  const std::string levels = ErrorLevelPlus;
+  platform.messages.clear();
+  platform.QueueFile(WriteTempFile(
+      "duo_ages_20120301.csv",
+      AgeModelText({{"P2", "---", "---", "---", "120", "10", "600", "20", "C1", "yr", "-"},
+                    {"P1", "a", "01", "60", "0", "10", "1000", "20", "C1", "yr", "-"},
+                    {"P3", "E", "01", "110", "0", "10", "2000", "20", "C1", "yr", "-"}},
+                   {"Composite depth (01 Jan. 1999)", "Plus error 68.2", "Minus error 68.2"})));
+  frm2Main->Command4_Click();
+  EXPECT_TRUE(platform.messages.empty()) << OnlyMessage();
+  EXPECT_TRUE(AgeModelLoaded2);
+  EXPECT_EQ(AgeModel2(5, 1), "120");
+  EXPECT_EQ(AgeModel2(5, 2), "150");
+  EXPECT_EQ(AgeModel2(11, 3), "200");
+  EXPECT_EQ(ErrorLevelPlus, levels);
+  EXPECT_EQ(GetAgeFromCD(duoSet, 175).ToDouble(), 1500);
+  EXPECT_FALSE(AgeModelLoaded);
+
+  platform.QueueFile(WriteTempFile("bad_20120301.csv", "Label,Hole\r\nP1,Q,01\r\n"));
+  frm2Main->Command4_Click();
+  EXPECT_TRUE(FailedWithFormatError()) << OnlyMessage();
 }
 
 // Positions of both sets, converted by either form: the other set's holes
