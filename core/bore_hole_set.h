@@ -79,8 +79,18 @@ struct BoreHoleSet {
 };
 
 class MainForm;
-// The main form that shows a set: frmMain the master's, frm2Main the Duo's.
+// The main form that shows a set: frmMain the master's, frm2Main the Duo's;
+// and the set that a main form shows.
 MainForm& MainFormOf(const BoreHoleSet& set);
+BoreHoleSet& SetOf(const MainForm& form);
+// The set a small form serves: the Duo's twins are named "frm2...".
+class Form;
+BoreHoleSet& SetOfTwin(const Form& form);
+// The level divider and the vertical axis dialog of a set's main form.
+class FrmDivider;
+class FrmSelect;
+FrmDivider& DividerOf(const BoreHoleSet& set);
+FrmSelect& SelectFormOf(const BoreHoleSet& set);
 
 // The master's set, bore holes A to D.
 inline BoreHoleSet masterSet(kMasterHoleNames, false);

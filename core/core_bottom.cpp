@@ -1,24 +1,22 @@
 #include "core/core_bottom.h"
 
-#include "core/project_state.h"
-#include "events/event_state.h"
-#include "forms/frm_main.h"
+#include "forms/main_form.h"
 #include "forms/platform.h"
 
 namespace ostraline {
 
-bool BelowEveryCoreBottom(double depth) {
+bool BelowEveryCoreBottom(const BoreHoleSet& set, double depth) {
   for (int hole = 1; hole <= 4; ++hole) {
-    if (!(depth > CoreBottom(hole))) return false;
+    if (!(depth > set.CoreBottom(hole))) return false;
   }
   return true;
 }
 
-void RefuseBelowCoreBottom(MainForm& form) {
+void RefuseBelowCoreBottom(BoreHoleSet& set, MainForm& form) {
   MsgBox("Requested horizon is below core bottom.", MsgButtons::Ok, "Error", MsgIcon::Exclamation);
-  form.Text2.Text = SavedText2;
-  if (EventListLoaded) form.Text3.Text = SavedText3;
-  if (AgeModelLoaded) form.Text4.Text = SavedText4;
+  form.Text2.Text = set.SavedText2;
+  if (set.EventListLoaded) form.Text3.Text = set.SavedText3;
+  if (set.AgeModelLoaded) form.Text4.Text = set.SavedText4;
 }
 
 }  // namespace ostraline

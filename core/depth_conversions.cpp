@@ -3,6 +3,7 @@
 #include "core/hole_lookup.h"
 #include "core/project_state.h"
 #include "display/display_state.h"
+#include "display/form_view.h"
 #include "forms/frm_divider.h"
 #include "forms/frm_main.h"
 #include "runtime/number_text.h"
@@ -20,7 +21,7 @@ double Cd(BoreHoleSet& set, long row) {
 // The section's rows with a PSP go to the divider's two lists and to
 // SectionTieList; returns how many rows were used.
 long FillDividerLists(BoreHoleSet& set, int hole) {
-  FrmDivider& divider = *frmDivider;
+  FrmDivider& divider = DividerOf(set);
   divider.Combo1(0).Clear();
   divider.Combo1(1).Clear();
   long used = 0;
@@ -106,6 +107,8 @@ Variant CompositeFromTrinity(BoreHoleSet& set, int hole, int section, Single psp
 
 void GetPSP(BoreHoleSet& set, int hole, Single target) {
   MainForm& form = MainFormOf(set);
+  // The extrapolation method is the master's, for both sets.
+  const MainForm& method = *frmMain;
   if (form.Command1.Enabled) return;
   try {
     // The section: the first whose estimated bottom lies strictly below the target.
@@ -152,7 +155,7 @@ void GetPSP(BoreHoleSet& set, int hole, Single target) {
     long used = -1;
     if (set.DrivenBy != 8) used = FillDividerLists(set, hole);
 
-    TargetDepth = form.BoreHole(hole).ScaleTop + static_cast<float>(ViewSpan) / 2.0f;
+    TargetDepth = form.BoreHole(hole).ScaleTop + static_cast<float>(ViewSpanOf(set)) / 2.0f;
     if (composite) {
       const int a = TieRowAbove;
       const int b = TieRowBelow;
@@ -161,7 +164,7 @@ void GetPSP(BoreHoleSet& set, int hole, Single target) {
                (TargetDepth - Cd(set, a)) *
                    Divide(Psp(set, hole, b) - Psp(set, hole, a), Cd(set, b) - Cd(set, a));
       };
-      if (form.Option4(0).Value) {
+      if (method.Option4(0).Value) {
         TargetPSP = CSng(interpolation());
       } else if (CSng(Cd(set, b)) < TargetDepth) {
         TargetPSP = CSng(Psp(set, hole, b) - (Cd(set, b) - TargetDepth));

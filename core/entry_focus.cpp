@@ -17,25 +17,29 @@ void PointLine2At(MainForm& form, const TextBox& box) {
 }
 
 void SaveTargetTexts(MainForm& form, bool alwaysEfd) {
-  SavedText2 = form.Text2.Text;
-  if (alwaysEfd || EventListLoaded) SavedText3 = form.Text3.Text;
-  if (AgeModelLoaded) SavedText4 = form.Text4.Text;
+  BoreHoleSet& set = SetOf(form);
+  set.SavedText2 = form.Text2.Text;
+  if (alwaysEfd || set.EventListLoaded) set.SavedText3 = form.Text3.Text;
+  if (set.AgeModelLoaded) set.SavedText4 = form.Text4.Text;
 }
 
 void FrmMain::Text1_GotFocus() {
-  DriveIndex = 1;
+  BoreHoleSet& set = SetOf(*this);
+  set.DriveIndex = 1;
   PointLine2At(*this, Text1);
 }
 
 void FrmMain::Text2_GotFocus() {
+  BoreHoleSet& set = SetOf(*this);
   SaveTargetTexts(*this, false);
-  DriveIndex = 2;
+  set.DriveIndex = 2;
   PointLine2At(*this, Text2);
 }
 
 void FrmMain::Text3_GotFocus() {
+  BoreHoleSet& set = SetOf(*this);
   SaveTargetTexts(*this, true);
-  DriveIndex = 3;
+  set.DriveIndex = 3;
   PointLine2At(*this, Text3);
 }
 
@@ -44,8 +48,9 @@ void FrmMain::Text1_KeyPress(int&) {
 }
 
 void FrmMain::Text2_KeyDown(int&, int) {
+  BoreHoleSet& set = SetOf(*this);
   ActionCount = 0;
-  DrivenBy = 2;
+  set.DrivenBy = 2;
 }
 
 void FrmMain::Text3_KeyDown(int&, int) {
@@ -66,14 +71,15 @@ void FrmMain::Text4_KeyPress(int&) {
 }
 
 void FrmMain::Slider1_Scroll() {
-  DrivenBy = 2;
+  BoreHoleSet& set = SetOf(*this);
+  set.DrivenBy = 2;
   ActionCount = 0;
   Text2.Text = Str(static_cast<long long>(Slider1.Value.Get()));
   // Moving the slider switches to the composite scale.
   Option1(1).Value = true;
   Option2(1).Value = true;
-  DrivenBy = 0;
-  DriveIndex = 6;
+  set.DrivenBy = 0;
+  set.DriveIndex = 6;
 }
 
 }  // namespace ostraline

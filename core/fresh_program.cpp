@@ -22,6 +22,7 @@ void ResetProgramState() {
   eventState = EventState{};
   batchState = BatchState{};
   masterProxies = ProxyRecords{};
+  duoProxies = ProxyRecords{};
   proxyState = ProxyState{};
   photoState = PhotoState{};
 }

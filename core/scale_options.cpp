@@ -5,8 +5,10 @@
 #include "core/project_state.h"
 #include "core/trinity_view.h"
 #include "display/core_columns.h"
+#include "duo/duo_state.h"
 #include "events/event_free_depth.h"
 #include "events/event_state.h"
+#include "forms/frm2_main.h"
 #include "forms/frm_main.h"
 #include "forms/platform.h"
 #include "runtime/number_text.h"
@@ -38,15 +40,32 @@ void PlaceAgeRowsAnew(AgeTable& table, long rows) {
 // The choice of input is read where it matters; choosing does nothing more.
 void FrmMain::Option1_Click(int) {}
 
+// One axis for both forms: the master's. A click on the Duo's passes to the
+// master's, which mirrors itself on the Duo's and redraws both.
 void FrmMain::Option2_Click(int index) {
+  if (IsDuo()) {
+    if (!frmMain->Option2(index).Value) frmMain->Option2(index).Value = true;
+    return;
+  }
   DepthAxis = index;
+  if (frm2Main.IsLoaded() && !frm2Main->Option2(index).Value) frm2Main->Option2(index).Value = true;
   if (LastRow > 1) {
-    SearchCoreTop();
-    GetCompositDepth();
+    SearchCoreTop(masterSet);
+    GetCompositDepth(masterSet);
+  }
+  if (DuoOpen && LastRow2 > 1) {
+    SearchCoreTop(duoSet);
+    GetCompositDepth(duoSet);
   }
 }
 
-void FrmMain::Option4_Click(int) {
+void FrmMain::Option4_Click(int index) {
+  // On the Duo the two buttons choose the scale its columns stand on.
+  if (IsDuo()) {
+    DuoScale = 2 - index;
+    if (LastRow2 > 0) DrawLamina(duoSet);
+    return;
+  }
   if (Command1.Enabled) {
     ProgressBar1.Visible = false;
     return;
@@ -74,8 +93,8 @@ void FrmMain::Option4_Click(int) {
     PlaceAgeRowsAnew(AgeReferenceRows, AgeReferenceCount);
   }
   if (LastRow > 1) {
-    SearchCoreTop();
-    GetCompositDepth();
+    SearchCoreTop(masterSet);
+    GetCompositDepth(masterSet);
   }
   DrawLamina();
   ProgressBar1.Value = 0;

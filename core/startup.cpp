@@ -5,6 +5,7 @@
 
 #include "core/project_state.h"
 #include "display/display_state.h"
+#include "display/form_view.h"
 #include "events/event_state.h"
 #include "forms/frm2_conversion.h"
 #include "forms/frm2_divider.h"
@@ -45,17 +46,24 @@ void EndProgram(FrmMain& form) {
 
 }  // namespace
 
+// The Duo's form starts the same way on its own set; the program's settings
+// are the master's to reset.
 void FrmMain::Form_Load() {
-  DepthPrecision = CheckedDigits(mnuDepPrec, DepthPrecision);
-  AgePrecision = CheckedDigits(mnuAgePrec, AgePrecision);
-
-  DebugTrace = false;
+  BoreHoleSet& set = SetOf(*this);
+  Integer& viewSpan = ViewSpanOf(set);
+  if (!set.IsDuo) {
+    DepthPrecision = CheckedDigits(mnuDepPrec, DepthPrecision);
+    AgePrecision = CheckedDigits(mnuAgePrec, AgePrecision);
+    DebugTrace = false;
+  }
   Frame5.Enabled = false;
 
   // The proxy panels' loaded flags are cleared here once the proxy state exists.
-  ViewSpan = 500;
-  displayState.ColumnFontSmall = 5;
-  displayState.ColumnFontLarge = 6;
+  viewSpan = 500;
+  if (!set.IsDuo) {
+    displayState.ColumnFontSmall = 5;
+    displayState.ColumnFontLarge = 6;
+  }
   DuoOpen = false;
 
   for (Menu* menu : {&mnuAge, &mnuDepth, &mnuLFDuo, &mnuAlign, &mnuPhoto}) menu->Enabled = false;
@@ -87,34 +95,43 @@ void FrmMain::Form_Load() {
   mnuCM(500).Checked = true;
 
   // The first writes must not move a target that does not exist yet.
-  DrivenBy = 9999;
-  Combo1.Text = "A";
+  set.DrivenBy = 9999;
+  Combo1.Text = set.HoleName(1);
   Combo2.Clear();
   Combo2.Text = "01";
 
   for (int i = 0; i <= 4; ++i) {
-    BoreHole(i).ScaleHeight = static_cast<float>(ViewSpan);
+    BoreHole(i).ScaleHeight = static_cast<float>(viewSpan);
     BoreHole(i).ScaleWidth = 7.6f;
-    Picture1(i).ScaleHeight = static_cast<float>(ViewSpan);
+    Picture1(i).ScaleHeight = static_cast<float>(viewSpan);
   }
 
   Text2.Text = "---";
   Text1.Text = "0";
   Line1.Visible = true;
   for (int i = 0; i <= 4; ++i) BoreHole(i).Enabled = false;
-  DrivenBy = 0;
+  set.DrivenBy = 0;
 
-  Option2(1).Value = true;
+  // The Duo's axis is the master's.
+  int axis = 1;
+  for (int i : {2, 3}) {
+    if (set.IsDuo && frmMain->Option2(i).Value) axis = i;
+  }
+  Option2(axis).Value = true;
   Option2(0).Enabled = false;
   Option2(1).Enabled = false;
-  DepthAxis = 1;
+  if (!set.IsDuo) DepthAxis = 1;
 
   CentreLineY = CInt(BoreHole(0).Top + BoreHole(0).Height / 2);
   Line1.Y1 = static_cast<float>(CentreLineY);
   Line1.Y2 = static_cast<float>(CentreLineY);
   Line2(0).Y1 = static_cast<float>(CentreLineY);
 
-  frmDivider.Unload();
+  if (set.IsDuo) {
+    frm2Divider.Unload();
+  } else {
+    frmDivider.Unload();
+  }
   DividerOpen = false;
 
   for (Control* control : std::initializer_list<Control*>{
@@ -122,8 +139,8 @@ void FrmMain::Form_Load() {
     control->Enabled = false;
   }
 
-  EventCount = -9999;
-  MergedEventCount = -9999;
+  set.EventCount = -9999;
+  set.MergedEventCount = -9999;
   EfdEntryActive = false;
   SuppressPopup = false;
   SuspendTrinity = false;
@@ -131,12 +148,18 @@ void FrmMain::Form_Load() {
   Height = Frame2.Top + Frame2.Height + 1080;
 
   // The label offsets of the drawing scale with the form's height against this one.
-  DesignFormHeight = CInt(Height);
-  BaseFormWidth = CInt(Picture1(0).Left + 120);
+  if (!set.IsDuo) {
+    DesignFormHeight = CInt(Height);
+    BaseFormWidth = CInt(Picture1(0).Left + 120);
+  }
 }
 
 void FrmMain::Form_Activate() {
-  frmDivider.Unload();
+  if (IsDuo()) {
+    frm2Divider.Unload();
+  } else {
+    frmDivider.Unload();
+  }
   DividerOpen = false;
   Refresh();
 }
@@ -145,9 +168,10 @@ void FrmMain::Form_Click() {
   Cls();
 }
 
+// The Duo form's bottom edge, for the alignment of the two forms.
 void FrmMain::Form_GotFocus() {
-  // Here the Duo form's position is noted for the alignment of the two forms,
-  // once the Duo form has its state.
+  if (IsDuo() || !frm2Main.IsLoaded()) return;
+  FormEdge(2) = frm2Main->Height + frm2Main->Top;
 }
 
 void FrmMain::Form_Unload(int& /*cancel*/) {

@@ -14,13 +14,14 @@ namespace {
 
 // The section's ordinal as digits, to the ordinal box.
 void SelectSectionByName(MainForm& form, bool userPick) {
-  HoleKey = GetBH(form.Combo1.Text).ToText();
+  BoreHoleSet& set = SetOf(form);
+  HoleKey = GetBH(set, form.Combo1.Text).ToText();
   const long hole = static_cast<long>(Val(HoleKey));
-  for (I = 1; I <= SectionCount(hole); ++I) {
-    if (form.Combo5.Text == SectionName(hole, I)) {
+  for (I = 1; I <= set.SectionCount(hole); ++I) {
+    if (form.Combo5.Text == set.SectionName(hole, I)) {
       if (userPick) {
         ActionCount = 0;
-        DrivenBy = 0;
+        set.DrivenBy = 0;
       }
       form.Combo2.Text = Str(I);
       return;
@@ -29,24 +30,26 @@ void SelectSectionByName(MainForm& form, bool userPick) {
 }
 
 std::string SectionNameOfCombos(MainForm& form) {
-  return SectionName(static_cast<long>(GetBH(form.Combo1.Text).ToDouble()),
-                     static_cast<long>(Val(form.Combo2.Text)));
+  BoreHoleSet& set = SetOf(form);
+  return set.SectionName(static_cast<long>(GetBH(set, form.Combo1.Text).ToDouble()),
+                         static_cast<long>(Val(form.Combo2.Text)));
 }
 
 void SectionPicked(MainForm& form, bool userPick) {
-  if (DrivenBy != 0) return;
+  BoreHoleSet& set = SetOf(form);
+  if (set.DrivenBy != 0) return;
   if (userPick) ActionCount = 0;
-  DrivenBy = 1;
+  set.DrivenBy = 1;
   form.Text1.Text = "0";
   form.Text2.Text = "";
-  if (LastRow > 1) {
-    SearchCoreTop();
-    GetCompositDepth();
+  if (set.LastRow > 1) {
+    SearchCoreTop(set);
+    GetCompositDepth(set);
   }
-  DrivenBy = 0;
+  set.DrivenBy = 0;
   if (userPick) {
     PointLine2At(form, form.Text1);
-    DriveIndex = 1;
+    set.DriveIndex = 1;
   }
   form.Combo5.Text = SectionNameOfCombos(form);
 }
@@ -54,56 +57,59 @@ void SectionPicked(MainForm& form, bool userPick) {
 }  // namespace
 
 void FrmMain::BoreHoleChange() {
-  const int hole = static_cast<int>(AlphaNum(Variant(Combo1.Text.Get())).ToDouble());
+  BoreHoleSet& set = SetOf(*this);
+  const int hole = static_cast<int>(AlphaNum(set, Variant(Combo1.Text.Get())).ToDouble());
   const std::string keptOrdinal = Combo2.Text;
   const std::string keptName = Combo5.Text;
   Combo2.Clear();
   Combo5.Clear();
-  for (I = 1; I <= SectionCount(hole); ++I) {
+  for (I = 1; I <= set.SectionCount(hole); ++I) {
     Combo2.AddItem(Str(I));
-    Combo5.AddItem(SectionName(hole, I));
+    Combo5.AddItem(set.SectionName(hole, I));
   }
-  if (!(Val(keptOrdinal) > SectionCount(hole))) {
+  if (!(Val(keptOrdinal) > set.SectionCount(hole))) {
     Combo2.Text = keptOrdinal;
     Combo5.Text = keptName;
   } else {
-    Combo2.Text = Str(SectionCount(hole));
-    Combo5.Text = SectionName(hole, SectionCount(hole));
+    Combo2.Text = Str(set.SectionCount(hole));
+    Combo5.Text = set.SectionName(hole, set.SectionCount(hole));
   }
   if (SuspendTrinity) return;
   Text1.Text = "0";
   Text2.Text = "";
-  if (LastRow > 1) {
-    GetPSP(hole, BoreHole(1).ScaleTop + BoreHole(1).ScaleHeight / 2);
-    DrivenBy = 9999;
-    Combo5.Text = Mid(frmDivider->Label5.Caption.Get(), 3);
+  if (set.LastRow > 1) {
+    GetPSP(set, hole, BoreHole(1).ScaleTop + BoreHole(1).ScaleHeight / 2);
+    set.DrivenBy = 9999;
+    Combo5.Text = Mid(DividerOf(set).Label5.Caption.Get(), 3);
     Text1.Text = Str(TargetPSP);
     const Integer keptCount = ActionCount;
     if (Text1.Text != "n/a") {
       ActionCount = 9999;
-      GetCompositDepth();
+      GetCompositDepth(set);
       ActionCount = keptCount;
     }
   }
 }
 
 void FrmMain::Combo1_Change() {
-  if (DrivenBy != 0) return;
-  DrivenBy = 1;
+  BoreHoleSet& set = SetOf(*this);
+  if (set.DrivenBy != 0) return;
+  set.DrivenBy = 1;
   for (int hole = 1; hole <= 4; ++hole) {
-    if (HoleName(hole) == Combo1.Text) BoreHoleChange();
+    if (set.HoleName(hole) == Combo1.Text) BoreHoleChange();
   }
-  DrivenBy = 0;
+  set.DrivenBy = 0;
 }
 
 void FrmMain::Combo1_Click() {
-  DrivenBy = 1;
+  BoreHoleSet& set = SetOf(*this);
+  set.DrivenBy = 1;
   for (int hole = 1; hole <= 4; ++hole) {
-    if (HoleName(hole) == Combo1.Text) BoreHoleChange();
+    if (set.HoleName(hole) == Combo1.Text) BoreHoleChange();
   }
-  DriveIndex = 1;
+  set.DriveIndex = 1;
   PointLine2At(*this, Text1);
-  DrivenBy = 0;
+  set.DrivenBy = 0;
   Combo5.Text = SectionNameOfCombos(*this);
 }
 

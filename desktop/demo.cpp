@@ -5,6 +5,7 @@
 #include <deque>
 
 #include "desktop/shell.h"
+#include "forms/frm2_main.h"
 #include "forms/frm_main.h"
 #include "forms/frm_select.h"
 
@@ -15,7 +16,8 @@ namespace {
 // the user would.
 class SampleDialogs : public Dialogs {
  public:
-  explicit SampleDialogs(std::deque<std::string> files) : files_(std::move(files)) {}
+  explicit SampleDialogs(std::deque<std::string> files, bool yes = false)
+      : files_(std::move(files)), yes_(yes) {}
   std::string OpenFileName(const FileDialogRequest& request) override {
     if (files_.empty()) return user_.OpenFileName(request);
     std::string name = files_.front();
@@ -27,11 +29,13 @@ class SampleDialogs : public Dialogs {
   }
   MsgAnswer MessageBox(const std::string& text, const std::string& title, MsgIcon icon,
                        MsgButtons buttons) override {
+    if (yes_ && buttons == MsgButtons::YesNo) return MsgAnswer::Yes;
     return user_.MessageBox(text, title, icon, buttons);
   }
 
  private:
   std::deque<std::string> files_;
+  bool yes_;
   QtDialogs user_;
 };
 
@@ -83,6 +87,28 @@ bool ImportSampleProject(Shell& shell, const std::string& folderPath) {
        ++click) {
     form.Form_MouseDown(1, 0, form.Width - 30, 100);
   }
+  shell.Platform().SetDialogs(nullptr);
+  return true;
+}
+
+bool ImportSampleDuo(Shell& shell, const std::string& folderPath) {
+  const QDir folder(QString::fromStdString(folderPath));
+  std::deque<std::string> files;
+  for (const char* stem : {"duo_correlation_model", "duo_event_layers"}) {
+    const std::string file = FileStartingWith(folder, stem);
+    if (file.empty()) return false;
+    files.push_back(file);
+  }
+  // The Duo's question for its event list is answered Yes.
+  SampleDialogs dialogs(files, true);
+  shell.Platform().SetDialogs(&dialogs);
+  frmMain->LaunchDuo();
+  Frm2Main& duo = *frm2Main;
+  duo.Command1_Click();
+  // A horizon typed into the Duo's composite depth box: the master follows.
+  int key = 13;
+  duo.Text2_KeyDown(key, 0);
+  duo.Text2.Text = "640";
   shell.Platform().SetDialogs(nullptr);
   return true;
 }

@@ -13,5 +13,9 @@ std::string SampleProjectFolder(const std::string& programPath);
 // Imports the correlation model, the event layers, the age-depth model and
 // the varve counts of the folder; false when the folder holds no project.
 bool ImportSampleProject(Shell& shell, const std::string& folder);
+// Opens the Duo beside the main form, imports the sample's parallel set with
+// its event list, and types a horizon into the Duo's composite depth box;
+// false when the folder holds no parallel set.
+bool ImportSampleDuo(Shell& shell, const std::string& folder);
 
 }  // namespace ostraline

@@ -1,11 +1,11 @@
 // The desktop program: the main form in a window, as the model leaves it.
 #include <QApplication>
 #include <QTimer>
-#include <QWidget>
 #include <cstdio>
 #include <cstring>
 
 #include "desktop/demo.h"
+#include "desktop/screenshot.h"
 #include "desktop/shell.h"
 #include "forms/frm_main.h"
 
@@ -16,11 +16,14 @@ int main(int argc, char* argv[]) {
 
   const char* screenshot = nullptr;
   bool demo = false;
+  bool duo = false;
   for (int i = 1; i < argc; ++i) {
     if (std::strcmp(argv[i], "--screenshot") == 0 && i + 1 < argc) {
       screenshot = argv[++i];
     } else if (std::strcmp(argv[i], "--demo") == 0) {
       demo = true;
+    } else if (std::strcmp(argv[i], "--duo") == 0) {
+      duo = true;
     }
   }
 
@@ -29,14 +32,14 @@ int main(int argc, char* argv[]) {
     const std::string folder = ostraline::SampleProjectFolder(argv[0]);
     if (folder.empty() || !ostraline::ImportSampleProject(shell, folder)) {
       std::fputs("The sample project was not found.\n", stderr);
+    } else if (duo && !ostraline::ImportSampleDuo(shell, folder)) {
+      std::fputs("The sample project has no parallel set.\n", stderr);
     }
   }
   if (screenshot != nullptr) {
     // Once the event loop has shown the window.
     QTimer::singleShot(0, &app, [&] {
-      QWidget* window = shell.Screen().WindowOf(*ostraline::frmMain);
-      const bool saved =
-          window != nullptr && window->grab().save(QString::fromLocal8Bit(screenshot), "PNG");
+      const bool saved = ostraline::SaveScreenshot(shell, screenshot);
       if (!saved) std::fprintf(stderr, "cannot write the screenshot %s\n", screenshot);
       app.exit(saved ? 0 : 1);
     });

@@ -5,14 +5,16 @@
 #include "display/display_state.h"
 #include "display/scale_strip.h"
 #include "display/target_line.h"
+#include "forms/frm2_main.h"
 #include "forms/frm_main.h"
 #include "forms/platform.h"
 
 namespace ostraline {
 namespace {
 
-void RedrawColumns() {
-  if (LastRow > 0) DrawLamina();
+void RedrawColumns(MainForm& form) {
+  BoreHoleSet& set = SetOf(form);
+  if (set.LastRow > 0) DrawLamina(set);
 }
 
 void Toggle(Menu& entry) {
@@ -24,14 +26,14 @@ void ToggleHorizontalLine(MainForm& form) {
   const bool shown = !form.mnuHorizontal.Checked;
   form.mnuHorizontal.Checked = shown;
   for (int p = 0; p <= 4; ++p) form.mnuHorizontalN(p).Checked = shown;
-  ClearTargetLine();
+  ClearTargetLine(SetOf(form));
 }
 
 void ShowStripScale(MainForm& form, Menu& chosen, Menu& other) {
   chosen.Checked = true;
   other.Checked = false;
   form.BoreHole(5).Cls();
-  DrawBH5();
+  DrawBH5(SetOf(form));
   form.BoreHole(5).CommitImage();
 }
 
@@ -39,12 +41,12 @@ void ShowStripScale(MainForm& form, Menu& chosen, Menu& other) {
 
 void FrmMain::mnuShowTiePoints_Click() {
   Toggle(mnuShowTiePoints);
-  RedrawColumns();
+  RedrawColumns(*this);
 }
 
 void FrmMain::mnuShowLabCodes_Click() {
   Toggle(mnuShowLabCodes);
-  RedrawColumns();
+  RedrawColumns(*this);
 }
 
 void FrmMain::mnuHorizontal_Click() {
@@ -62,7 +64,7 @@ void FrmMain::mnuHorizontalN_Click(int /*panel*/) {
 // overlay, so it redraws the columns.
 void FrmMain::mnuHorizontalBH_Click() {
   Toggle(mnuHorizontalBH);
-  RedrawColumns();
+  RedrawColumns(*this);
 }
 
 void FrmMain::mnuDepth_Click() {
@@ -73,13 +75,18 @@ void FrmMain::mnuAge_Click() {
   ShowStripScale(*this, mnuAge, mnuDepth);
 }
 
-// Size 1 ("---") means no labels at all; the column captions then take size 2.
+// Size 1 ("---") means no labels at all; the column captions then take size
+// 2, on both main forms.
 void FrmMain::mnuSize_Click(int index) {
   LabelFontSize = index;
   mnuSize.ForEach([](Menu& entry) { entry.Checked = false; });
   mnuSize(index).Checked = true;
-  RedrawColumns();
-  for (int i = 0; i <= 4; ++i) Label1(i).FontSize = static_cast<float>(index + 1);
+  RedrawColumns(*this);
+  for (FormSlot* slot : {static_cast<FormSlot*>(&frmMain), static_cast<FormSlot*>(&frm2Main)}) {
+    if (!slot->IsLoaded()) continue;
+    MainForm& form = static_cast<MainForm&>(slot->GetForm());
+    for (int i = 0; i <= 4; ++i) form.Label1(i).FontSize = static_cast<float>(index + 1);
+  }
 }
 
 // The strip goes to the clipboard on white, then back to its own colour.
@@ -96,10 +103,10 @@ void FrmMain::mnuCopyDepth_Click() {
   PictureBox& strip = BoreHole(5);
   const long ownColour = strip.BackColor;
   strip.BackColor = kWhite;
-  DrawBH5();
+  DrawBH5(SetOf(*this));
   CopyToClipboard(strip.Image());
   strip.BackColor = ownColour;
-  DrawBH5();
+  DrawBH5(SetOf(*this));
 }
 
 }  // namespace ostraline

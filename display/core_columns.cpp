@@ -1,4 +1,5 @@
 #include "display/core_columns.h"
+#include "display/form_view.h"
 
 #include "display/core_columns_rows.h"
 #include "display/core_columns_steps.h"
@@ -30,13 +31,14 @@ void CommitColumns(MainForm& form) {
 
 // The panels follow the columns' depth window: a loaded panel draws its
 // record, any other shows its background.
-void ScalePanels(MainForm& form) {
+void ScalePanels(BoreHoleSet& set, MainForm& form) {
+  ProxyRecords& records = ProxiesOf(set);
   for (int i = 0; i <= 4; ++i) {
     PictureBox& panel = form.Picture1(i);
     panel.ScaleTop = form.BoreHole(0).ScaleTop.Get();
     panel.ScaleHeight = form.BoreHole(0).ScaleHeight.Get();
-    if (ProxyLoaded(i)) {
-      DrawProxy(i);
+    if (records.ProxyLoaded(i)) {
+      DrawProxy(set, records, i);
       continue;
     }
     const float left = panel.ScaleLeft;
@@ -45,7 +47,9 @@ void ScalePanels(MainForm& form) {
   }
 }
 
+// The master's view remembers its texts for the level divider.
 void SaveTexts(const MainForm& form) {
+  if (form.IsDuo()) return;
   SavedDepthText = form.Text2.Text.Get();
   SavedEFDText = form.Text3.Text.Get();
   SavedAgeText = form.Text4.Text.Get();
@@ -54,7 +58,7 @@ void SaveTexts(const MainForm& form) {
 }  // namespace
 
 void DrawLamina(BoreHoleSet& set) {
-  MainForm& form = *frmMain;
+  MainForm& form = MainFormOf(set);
   const ModelRows rows(set);
   ClearColumns(form);
   PaintAboveCore(form, rows);
@@ -65,15 +69,22 @@ void DrawLamina(BoreHoleSet& set) {
   PaintSectionGaps(form, rows);
   if (set.MergedEventCount > 0) DrawEvents(set);
   CrossSectionGaps(form, rows);
-  ChooseAgeDepthColumn();
+  ChooseAgeDepthColumn(set);
   PaintVarveStretches(set, form);
   for (int i = 0; i <= 4; ++i) form.BoreHole(i).FillStyle = 0;
   PlotAgeControlPoints(set, form);
   PlotReferenceRows(set, form);
   DrawFixedHorizon(form);
   DrawRowMarks(set, form, rows);
+  // The Duo's composite column carries no labels of its own.
+  if (set.IsDuo) {
+    PictureBox& composite = form.BoreHole(0);
+    composite.CurrentX = 0.2f;
+    composite.CurrentY = composite.ScaleTop;
+    composite.Print("Unlabeled");
+  }
   CommitColumns(form);
-  ScalePanels(form);
+  ScalePanels(set, form);
   SaveTexts(form);
 }
 

@@ -7,6 +7,8 @@
 #include "display/core_columns_paint.h"
 #include "display/core_columns_steps.h"
 #include "display/display_state.h"
+#include "display/form_view.h"
+#include "duo/depth_map.h"
 #include "events/event_state.h"
 #include "forms/frm_main.h"
 #include "runtime/number_text.h"
@@ -34,12 +36,14 @@ int HoleNamed(BoreHoleSet& set, const std::string& name) {
 }
 
 Single AgeDepth(BoreHoleSet& set, long row) {
+  if (OnMasterScale(set)) return DuoToMaster(CellNumber(set.AgeModel(5, row)));
   return CellNumber(set.AgeModel(AgeDepthColumn, row));
 }
 
 Single ReferenceDepth(BoreHoleSet& set, long row) {
   const Variant& cell = set.AgeReferenceRows(5, row);
-  return cell.IsNumber() ? AsSingle(cell.ToDouble()) : CellNumber(cell.ToText());
+  const Single depth = cell.IsNumber() ? AsSingle(cell.ToDouble()) : CellNumber(cell.ToText());
+  return OnMasterScale(set) ? DuoToMaster(depth) : depth;
 }
 
 // Plots the rows of a depth-ordered table that can show in the view: from
@@ -67,10 +71,11 @@ void PlaceLabel(PictureBox& composite, Single depth) {
 
 }  // namespace
 
-void ChooseAgeDepthColumn() {
-  if (DepthAxis == 1) AgeDepthColumn = 5;
-  if (DepthAxis == 2) AgeDepthColumn = 11;
-  if (DepthAxis == 3) AgeDepthColumn = 7;
+void ChooseAgeDepthColumn(const BoreHoleSet& set) {
+  const Integer scale = ColumnScaleOf(set);
+  if (scale == 1) AgeDepthColumn = 5;
+  if (scale == 2) AgeDepthColumn = 11;
+  if (scale == 3) AgeDepthColumn = 7;
 }
 
 void PaintVarveStretches(BoreHoleSet& set, MainForm& form) {

@@ -8,6 +8,7 @@
 #include "display/core_columns_rows.h"
 #include "display/core_columns_steps.h"
 #include "display/display_state.h"
+#include "display/form_view.h"
 #include "forms/frm_main.h"
 #include "runtime/number_text.h"
 
@@ -85,7 +86,7 @@ void DrawFixedHorizon(MainForm& form) {
   if (!form.mnuHorizontalBH.Checked) return;
   for (int i = 0; i <= 4; ++i) {
     PictureBox& column = form.BoreHole(i);
-    const float y = AsSingle(column.ScaleTop + static_cast<double>(ViewSpan) / 2);
+    const float y = AsSingle(column.ScaleTop + static_cast<double>(ViewSpanOf(form)) / 2);
     column.Line(0, y, kColumnWidth, y, kHorizonGreen);
   }
 }

@@ -1,4 +1,5 @@
 #include "display/core_columns_paint.h"
+#include "display/form_view.h"
 
 #include <charconv>
 #include <cmath>
@@ -65,7 +66,7 @@ void PaintCross(PictureBox& column, float upper, float lower) {
 double LabelOffset(const MainForm& form, double spanDivisor, double fontDivisor) {
   // The height ratio is a Single, the rest whole numbers divided as Doubles.
   const Single heightRatio = static_cast<Single>(DesignFormHeight) / form.Height.Get();
-  return static_cast<double>(heightRatio) * (static_cast<double>(ViewSpan) / spanDivisor) *
+  return static_cast<double>(heightRatio) * (static_cast<double>(ViewSpanOf(form)) / spanDivisor) *
          (static_cast<double>(LabelFontSize) / fontDivisor);
 }
 

@@ -1,4 +1,5 @@
 #include "display/core_columns_rows.h"
+#include "display/form_view.h"
 
 #include "core/project_state.h"
 #include "display/core_columns_paint.h"
@@ -17,7 +18,7 @@ bool IsGap(const std::string& kind) {
 
 ModelRows::ModelRows(const BoreHoleSet& set)
     : set_(set),
-      axis_(DepthAxis),
+      axis_(ColumnScaleOf(set)),
       lastRow_(set.LastRow),
       holeRows_(static_cast<std::size_t>(lastRow_ + 1) * 4),
       tieRows_(static_cast<std::size_t>(lastRow_ + 1)) {

@@ -15,11 +15,11 @@ class ModelRows {
   explicit ModelRows(const BoreHoleSet& set);
 
   long LastRow() const { return lastRow_; }
-  // ModelCell(DepthAxis, hole, 2, row) as a Single.
+  // ModelCell(scale, hole, 2, row) as a Single.
   Single Depth(int hole, long row) const { return holeRows_[Slot(hole, row)].depth; }
   // The depth cell as text, for the comparison between sections.
   const std::string& DepthText(int hole, long row) const;
-  // ModelCell(DepthAxis, hole, 1, row) as a number: the PSP on the composite scale.
+  // ModelCell(scale, hole, 1, row) as a number: the PSP on the composite scale.
   double Psp(int hole, long row) const;
   // ModelCell(0, hole, 0, row): the lamina label, and what it marks.
   const std::string& Label(int hole, long row) const;
@@ -29,7 +29,7 @@ class ModelRows {
   // The first row after this one that opens a section, or the last row.
   long NextSectionStart(int hole, long row) const;
 
-  // TieCell(DepthAxis, row) as a Single: the row's depth on the composite column.
+  // TieCell(scale, row) as a Single: the row's depth on the composite column.
   Single Tie(long row) const { return tieRows_[static_cast<std::size_t>(row)].depth; }
   // TieCell(0, row): the bore hole that carries the composite from this row
   // on, or a gap.

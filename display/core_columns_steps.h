@@ -21,7 +21,7 @@ void CrossSectionGaps(MainForm& form, const ModelRows& rows);
 void PaintSplicedParts(BoreHoleSet& set, MainForm& form, const ModelRows& rows);
 
 // The age-depth model on the composite column and the bore holes.
-void ChooseAgeDepthColumn();
+void ChooseAgeDepthColumn(const BoreHoleSet& set);
 void PaintVarveStretches(BoreHoleSet& set, MainForm& form);
 void PlotAgeControlPoints(BoreHoleSet& set, MainForm& form);
 void PlotReferenceRows(BoreHoleSet& set, MainForm& form);

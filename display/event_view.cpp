@@ -1,4 +1,6 @@
 #include "display/event_view.h"
+#include "display/form_view.h"
+#include "duo/depth_map.h"
 
 #include <vector>
 
@@ -15,16 +17,17 @@ namespace ostraline {
 namespace {
 
 // Events have no thickness on the event free scale or on age.
-void ChooseEventColumns() {
-  if (DepthAxis == 1) {
+void ChooseEventColumns(const BoreHoleSet& set) {
+  const Integer scale = ColumnScaleOf(set);
+  if (scale == 1) {
     EventColumnTop = 6;
     EventColumnBottom = 7;
   }
-  if (DepthAxis == 2) {
+  if (scale == 2) {
     EventColumnTop = 8;
     EventColumnBottom = 8;
   }
-  if (DepthAxis == 3) {
+  if (scale == 3) {
     EventColumnTop = 9;
     EventColumnBottom = 9;
   }
@@ -36,6 +39,10 @@ struct EventEdges {
 };
 
 EventEdges EdgesOf(BoreHoleSet& set, long row) {
+  if (OnMasterScale(set)) {
+    return {DuoToMaster(CellNumber(set.EventList(6, row))),
+            DuoToMaster(CellNumber(set.EventList(7, row)))};
+  }
   return {CellNumber(set.EventList(EventColumnTop, row)),
           CellNumber(set.EventList(EventColumnBottom, row))};
 }
@@ -84,8 +91,8 @@ std::string GetTephraName(const std::string& text) {
 }
 
 void DrawEvents(BoreHoleSet& set) {
-  MainForm& form = *frmMain;
-  ChooseEventColumns();
+  MainForm& form = MainFormOf(set);
+  ChooseEventColumns(set);
   PictureBox& composite = form.BoreHole(0);
   const float top = composite.ScaleTop;
   const float bottom = composite.ScaleTop + composite.ScaleHeight;

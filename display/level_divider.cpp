@@ -6,6 +6,7 @@
 #include "core/project_state.h"
 #include "display/display_state.h"
 #include "display/mouse_on_columns.h"
+#include "duo/duo_state.h"
 #include "forms/frm_divider.h"
 #include "forms/frm_main.h"
 #include "forms/platform.h"
@@ -94,13 +95,13 @@ void MoveTargetToSampling(FrmDivider& form, double s0, double s1) {
       a <= t && t <= b ? ::ostraline::Divide(static_cast<Single>(b - a), s1 - s0) : 1.0;
   const double target = Round((Val(form.Text2.Text.Get()) - s0) * ratio + a, DepthPrecision);
   form.Label3.Caption = "Target depth = " + Str(target) + " cm";
-  frmMain->Text1.Text = Str(target);
+  MainFormOf(SetOfTwin(form)).Text1.Text = Str(target);
 }
 
 }  // namespace
 
 void FrmDivider::Divide() {
-  MainForm& main = *frmMain;
+  MainForm& main = MainFormOf(SetOfTwin(*this));
   if (main.Label2.Top < main.Line2(0).Y1) {
     Option1.Value = true;
   } else {
@@ -150,7 +151,7 @@ void FrmDivider::Combo1_Click(int index) {
     Combo1(1).Text = "";
     return;
   }
-  DrivenBy = 8;
+  SetOfTwin(*this).DrivenBy = 8;
   // In "Fix target depth" the box is hidden and can take no focus.
   if (Text2.Visible) Text2.SetFocus();
   // Only the first 30 rows of the section are searched.
@@ -176,7 +177,7 @@ void FrmDivider::Combo1_Click(int index) {
     Label2(0).Visible = true;
     Label2(1).Visible = true;
   }
-  DrivenBy = 0;
+  SetOfTwin(*this).DrivenBy = 0;
 }
 
 void FrmDivider::Combo1_GotFocus() {
@@ -191,7 +192,8 @@ void FrmDivider::Form_MouseMove(int /*button*/, int /*shift*/, float /*x*/, floa
 
 // Equal sampling positions, or equal levels, divide by zero: the fields stay.
 void FrmDivider::Text1_Change() {
-  DrivenBy = 8;
+  BoreHoleSet& set = SetOfTwin(*this);
+  set.DrivenBy = 8;
   try {
     double s0 = 0;
     double s1 = 0;
@@ -211,11 +213,12 @@ void FrmDivider::Text1_Change() {
     }
   } catch (const RuntimeFailure&) {
   }
-  DrivenBy = 0;
+  set.DrivenBy = 0;
 }
 
 void FrmDivider::Text2_Change() {
-  DrivenBy = 8;
+  BoreHoleSet& set = SetOfTwin(*this);
+  set.DrivenBy = 8;
   try {
     double s0 = 0;
     double s1 = 0;
@@ -225,7 +228,7 @@ void FrmDivider::Text2_Change() {
     }
   } catch (const RuntimeFailure&) {
   }
-  DrivenBy = 0;
+  set.DrivenBy = 0;
 }
 
 void FrmDivider::Option1_Click() {
@@ -246,14 +249,14 @@ void FrmDivider::Form_Activate() {
 }
 
 void FrmDivider::Form_Unload(int& /*cancel*/) {
-  frmMain->Enabled = true;
+  MainFormOf(SetOfTwin(*this)).Enabled = true;
   DividerOpen = false;
   // The form goes with its unloading: its end comes at once.
   Form_Terminate();
 }
 
 void FrmDivider::Form_Terminate() {
-  frmMain->Enabled = true;
+  MainFormOf(SetOfTwin(*this)).Enabled = true;
   DividerOpen = false;
   TieAbovePSP = 0;
   ClickedPSP = 0;
@@ -265,7 +268,7 @@ void FrmDivider::Form_Terminate() {
 void FrmMain::mnuDivider_Click() {
   Text1.Visible = Option1(0).Value.Get();
   // Beside the main form, over its right part if the screen has no room.
-  FrmDivider& divider = *frmDivider;
+  FrmDivider& divider = DividerOf(SetOf(*this));
   divider.Left = std::max(0.0f, std::min(Left + Width, Screen.Width() - divider.Width));
   divider.Top = Top + 1200;
   divider.Show();
@@ -277,7 +280,7 @@ void FrmMain::mnuDivider_Click() {
 void FrmMain::mnuBH_Click(int index) {
   SuppressPopup = true;
   SuspendTrinity = true;
-  MouseDownProcedure(index, 2, 0, 0, CSng(Val(Text2.Text.Get())));
+  MouseDownProcedure(SetOf(*this), index, 2, 0, 0, CSng(Val(Text2.Text.Get())));
   if (TieAbovePSP != TieBelowPSP) mnuDivider_Click();
 }
 

@@ -7,7 +7,10 @@
 #include "core/depth_conversions.h"
 #include "core/project_state.h"
 #include "display/display_state.h"
+#include "display/form_view.h"
 #include "display/target_line.h"
+#include "duo/depth_map.h"
+#include "duo/duo_state.h"
 #include "events/age_lookup.h"
 #include "events/event_free_depth.h"
 #include "events/event_state.h"
@@ -25,55 +28,58 @@ std::string Rounded(double depth) {
 }
 
 // The hit tests compare squares: 0.2 % of the view span around a row or the centre.
-bool Near(double a, double b) {
-  const double tolerance = static_cast<double>(ViewSpan) * 0.002;
+bool Near(const BoreHoleSet& set, double a, double b) {
+  const double tolerance = static_cast<double>(ViewSpanOf(set)) * 0.002;
   return (a - b) * (a - b) < tolerance * tolerance;
 }
 
 void ShowAgePoints(MainForm& form, int index, Single x, Single y) {
-  for (long row = 1; row <= AgeModelCount; ++row) {
-    const double depth = Val(AgeModel(5, row));
-    if (!(std::abs(depth - y) < static_cast<double>(ViewSpan) * 0.003)) continue;
+  BoreHoleSet& set = SetOf(form);
+  for (long row = 1; row <= set.AgeModelCount; ++row) {
+    const double depth = Val(set.AgeModel(5, row));
+    if (!(std::abs(depth - y) < static_cast<double>(ViewSpanOf(set)) * 0.003)) continue;
     if (index == 0 || x < 1.0f) {
-      form.BoreHole(index).ToolTipText = AgeModel(1, row) + " (" + Rounded(depth) + " cm)";
+      form.BoreHole(index).ToolTipText = set.AgeModel(1, row) + " (" + Rounded(depth) + " cm)";
     }
   }
 }
 
 void ShowRows(MainForm& form, int index, Single y) {
-  for (long row = 1; row <= LastRow; ++row) {
-    const double depth = Val(ModelCell(DepthAxis, index, 2, row));
-    if (index != 0 && Near(depth, y)) {
+  BoreHoleSet& set = SetOf(form);
+  for (long row = 1; row <= set.LastRow; ++row) {
+    const double depth = Val(set.ModelCell(ColumnScaleOf(set), index, 2, row));
+    if (index != 0 && Near(set, depth, y)) {
       form.BoreHole(index).ToolTipText =
-          ModelCell(0, index, 0, row) + " (" + ModelCell(0, index, 1, row) + " cm)";
+          set.ModelCell(0, index, 0, row) + " (" + set.ModelCell(0, index, 1, row) + " cm)";
     }
   }
 }
 
-void TakeBrackets(int index, Single y) {
-  GetPSP(index, y);
-  TieAbovePSP = CSng(Val(ModelCell(0, index, 1, TieRowAbove)));
+void TakeBrackets(BoreHoleSet& set, int index, Single y) {
+  GetPSP(set, index, y);
+  TieAbovePSP = CSng(Val(set.ModelCell(0, index, 1, TieRowAbove)));
   ClickedPSP = TargetPSP;
-  TieBelowPSP = CSng(Val(ModelCell(0, index, 1, TieRowBelow)));
-  TieAboveLabel = ModelCell(0, index, 0, TieRowAbove);
-  TieBelowLabel = ModelCell(0, index, 0, TieRowBelow);
+  TieBelowPSP = CSng(Val(set.ModelCell(0, index, 1, TieRowBelow)));
+  TieAboveLabel = set.ModelCell(0, index, 0, TieRowAbove);
+  TieBelowLabel = set.ModelCell(0, index, 0, TieRowBelow);
 }
 
 void ClickOnBoreHole(MainForm& form, int index, int button, int shift, Single x, Single y) {
+  BoreHoleSet& set = SetOf(form);
   SuspendTrinity = button == 2;
-  ClickedHole = HoleName(index);
+  ClickedHole = set.HoleName(index);
   // Raw numbers whatever the scale.
-  if (CoreBottom(index) < y) {
-    DrivenBy = 0;
+  if (set.CoreBottom(index) < y) {
+    set.DrivenBy = 0;
     return;
   }
   if (button == 1) form.Combo1.Text = ClickedHole;
   if (button == 2) {
     SuspendTrinity = true;
-    form.Combo1.Text = HoleName(index);
-    MouseMoveProcedure(index, button, shift, x, y);
+    form.Combo1.Text = set.HoleName(index);
+    MouseMoveProcedure(set, index, button, shift, x, y);
     if (TieAbovePSP == TieBelowPSP) {  // nothing to divide between
-      DrivenBy = 0;
+      set.DrivenBy = 0;
       return;
     }
     if (!SuppressPopup) form.PopupMenu(form.mnuRB);
@@ -85,7 +91,7 @@ void ClickOnBoreHole(MainForm& form, int index, int button, int shift, Single x,
       form.Text1.Text = Rounded(y);
       ActionCount = 0;
     }
-    DrivenBy = 9;
+    set.DrivenBy = 9;
     if (form.Option2(1).Value) {
       form.Text2.Text = Rounded(y);
     } else if (form.Option2(2).Value) {
@@ -93,50 +99,57 @@ void ClickOnBoreHole(MainForm& form, int index, int button, int shift, Single x,
     } else if (form.Option2(3).Value) {
       form.Text4.Text = Rounded(y);
     }
-    frmDivider->Hide();
+    DividerOf(set).Hide();
   }
-  DrivenBy = 0;
+  set.DrivenBy = 0;
 }
 
 void ClickOnComposite(MainForm& form, int button, Single y) {
-  DrivenBy = 2;
+  BoreHoleSet& set = SetOf(form);
+  set.DrivenBy = 2;
   if (button == 1) {
     if (form.Option2(1).Value) {
       form.Text2.Text = Rounded(y);
     } else if (form.Option2(2).Value) {
-      form.Text2.Text = Rounded(EFDToCD(y).ToDouble());
+      form.Text2.Text = Rounded(EFDToCD(set, y).ToDouble());
     } else if (form.Option2(3).Value) {
-      form.Text2.Text = Rounded(EFDToCD(GetEFDFromAge(y).ToSingle()).ToDouble());
+      form.Text2.Text = Rounded(EFDToCD(set, GetEFDFromAge(set, y).ToSingle()).ToDouble());
     }
   }
   if (button == 2 && !SuspendTrinity) {
     SuspendTrinity = true;
     form.PopupMenu(form.mnuTool);
   }
-  DrivenBy = 0;
+  set.DrivenBy = 0;
 }
 
 }  // namespace
 
-void MouseMoveProcedure(int Index, int /*Button*/, int /*Shift*/, Single X, Single Y) {
+Single PointerDepth(const BoreHoleSet& set, Single y) {
+  return set.IsDuo && DuoScale == 2 ? MasterToDuo(y) : y;
+}
+
+void MouseMoveProcedure(BoreHoleSet& set, int Index, int /*Button*/, int /*Shift*/, Single X,
+                        Single Y) {
   try {
-    MainForm& form = *frmMain;
-    if (Y > CoreBottom(Index)) return;
-    ShowAgePoints(form, Index, X, Y);
+    MainForm& form = MainFormOf(set);
+    const Single depth = PointerDepth(set, Y);
+    if (depth > set.CoreBottom(Index)) return;
+    ShowAgePoints(form, Index, X, depth);
     if (Index == 5) return;
     ShowRows(form, Index, Y);
-    if (Near(Y, form.BoreHole(1).ScaleTop + static_cast<double>(ViewSpan) / 2))
-      TakeBrackets(Index, Y);
+    if (Near(set, Y, form.BoreHole(1).ScaleTop + static_cast<double>(ViewSpanOf(set)) / 2))
+      TakeBrackets(set, Index, depth);
   } catch (const RuntimeFailure&) {
     // The pointer moves on; the tool tip keeps what it had.
   }
 }
 
-void MouseDownProcedure(int Index, int Button, int Shift, Single X, Single Y) {
+void MouseDownProcedure(BoreHoleSet& set, int Index, int Button, int Shift, Single X, Single Y) {
   try {
-    MainForm& form = *frmMain;
+    MainForm& form = MainFormOf(set);
     if (DividerOpen) {
-      DrivenBy = 0;
+      set.DrivenBy = 0;
       return;
     }
     if (Index >= 1 && Index <= 4) {
@@ -152,13 +165,15 @@ void MouseDownProcedure(int Index, int Button, int Shift, Single X, Single Y) {
 }
 
 void FrmMain::BoreHole_MouseMove(int index, int button, int shift, float x, float y) {
+  BoreHoleSet& set = SetOf(*this);
   SuspendTrinity = false;
-  TargetLine(y);
+  TargetLine(set, y);
   Screen.SetMousePointer(index == 5 ? 0 : 2);
-  if (!DividerOpen) MouseMoveProcedure(index, button, shift, x, y);
+  if (!DividerOpen) MouseMoveProcedure(set, index, button, shift, x, PointerDepth(set, y));
 }
 
 void FrmMain::BoreHole_MouseDown(int index, int button, int shift, float x, float y) {
+  BoreHoleSet& set = SetOf(*this);
   ActionCount = 0;
   CopyHole = index;
   if (index == 0 && button == 2) {
@@ -170,16 +185,16 @@ void FrmMain::BoreHole_MouseDown(int index, int button, int shift, float x, floa
   } else if (index == 5 && button == 2) {
     PopupMenu(mnuRBdepth);
   } else {
-    DriveIndex = 5;
+    set.DriveIndex = 5;
     SuppressPopup = true;
     if (button == 2) {
       // The right click acts at the target, not at the pointer, to select
       // the bore hole and the ties around the target.
       Screen.SetMousePointer(0);
-      MouseDownProcedure(index, 2, shift, x, CSng(Val(Text2.Text)));
+      MouseDownProcedure(set, index, 2, shift, x, CSng(Val(Text2.Text)));
     }
     SuppressPopup = false;
-    MouseDownProcedure(index, button, shift, x, y);
+    MouseDownProcedure(set, index, button, shift, x, PointerDepth(set, y));
   }
   mnuCompCopy.Visible = false;
   break98.Visible = false;
@@ -187,22 +202,26 @@ void FrmMain::BoreHole_MouseDown(int index, int button, int shift, float x, floa
 
 // A panel without a record ignores the pointer.
 void FrmMain::Picture1_MouseMove(int index, int /*button*/, int /*shift*/, float /*x*/, float y) {
-  if (!ProxyLoaded(index)) return;
-  Picture1(index).ToolTipText = mnuFilename(index).Checked ? ProxyFileName(index) : std::string();
-  TargetLine(y);
+  BoreHoleSet& set = SetOf(*this);
+  const ProxyRecords& records = ProxiesOf(set);
+  if (!records.ProxyLoaded(index)) return;
+  Picture1(index).ToolTipText =
+      mnuFilename(index).Checked ? records.ProxyFileName(index) : std::string();
+  TargetLine(set, y);
   Screen.SetMousePointer(2);
 }
 
 void FrmMain::Picture1_MouseDown(int index, int button, int shift, float x, float y) {
+  BoreHoleSet& set = SetOf(*this);
   if (button == 2) {
     Screen.SetMousePointer(0);
     PopupMenu(mnuPicRB(index));
   } else if (Screen.MousePointer() != 0) {
     // The cross shows a record under the pointer: the click acts as one on the composite column.
     ActionCount = 0;
-    MouseDownProcedure(0, button, shift, x, y);
+    MouseDownProcedure(set, 0, button, shift, x, PointerDepth(set, y));
   }
-  DriveIndex = 5;
+  set.DriveIndex = 5;
 }
 
 }  // namespace ostraline

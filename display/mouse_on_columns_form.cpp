@@ -77,8 +77,13 @@ void ToggleCompositeColumn(MainForm& form) {
   }
 }
 
+// The master notes where the pointer left it, the Duo where its form ends.
 void FrmMain::Form_MouseMove(int /*button*/, int /*shift*/, float /*x*/, float y) {
-  ClearTargetLine();
+  ClearTargetLines();
+  if (IsDuo()) {
+    FormEdge(2) = Height + Top;
+    return;
+  }
   FormEdge(1) = Height + Top;
   FormEdge(0) = y;
 }
@@ -102,11 +107,11 @@ void FrmMain::Form_MouseDown(int /*button*/, int /*shift*/, float x, float /*y*/
 
 void FrmMain::Label_MouseMove() {
   Screen.SetMousePointer(1);
-  ClearTargetLine();
+  ClearTargetLines();
 }
 
 void FrmMain::Text6_MouseMove(int /*index*/) {
-  ClearTargetLine();
+  ClearTargetLines();
 }
 
 void FrmMain::Slider1_MouseMove() {

@@ -2,13 +2,18 @@
 // the form's size. Each ends in a redraw of what depends on it.
 #include "display/range_and_layout.h"
 
+#include <algorithm>
 #include <string>
 
 #include "core/project_state.h"
 #include "display/core_columns.h"
 #include "display/display_state.h"
+#include "display/form_view.h"
 #include "display/mouse_on_columns.h"
 #include "display/target_line.h"
+#include "duo/depth_map.h"
+#include "duo/duo_state.h"
+#include "forms/frm2_main.h"
 #include "forms/frm_kx11.h"
 #include "forms/frm_main.h"
 #include "runtime/number_text.h"
@@ -42,11 +47,14 @@ bool TargetText(MainForm& form, std::string& text) {
   return true;
 }
 
-// Puts the target in the middle of every column and of the scale strip.
+// Puts the target in the middle of every column and of the scale strip; the
+// Duo's columns stand on the master's depth of its target.
 void RecentreOnTarget(MainForm& form) {
   std::string text;
   if (!TargetText(form, text)) return;
-  const Single top = CSng(Val(text) - static_cast<double>(ViewSpan) / 2);
+  const BoreHoleSet& set = SetOf(form);
+  const double centre = set.IsDuo ? DuoToMaster(CSng(Val(text))) : Val(text);
+  const Single top = CSng(centre - static_cast<double>(ViewSpanOf(set)) / 2);
   for (int i = 0; i <= 5; ++i) form.BoreHole(i).ScaleTop = top;
 }
 
@@ -60,55 +68,65 @@ void PanelsFollowColumns(MainForm& form) {
   }
 }
 
-void RedrawColumns() {
-  if (LastRow > 0) DrawLamina();
+void RedrawColumns(BoreHoleSet& set) {
+  if (set.LastRow > 0) DrawLamina(set);
 }
 
-}  // namespace
-
-void SetViewSpan(Integer Source, Integer Span) {
-  MainForm& form = *frmMain;
-  // The Duo's columns take the span here too once the Duo has its own set.
-  if (Source != 1 && !form.mnuLink.Checked) return;
+// One block of SetViewSpan, on the set's form with its own span and menu.
+void ApplySpan(BoreHoleSet& set, Integer Span) {
+  MainForm& form = MainFormOf(set);
+  Integer& viewSpan = ViewSpanOf(set);
   Integer span = Span;
   if (Span == kWholeCore) {
     // The last composite depth rounded up to thousands, with room below.
-    const Integer wholeCore = CInt(Round(Val(TieCell(1, LastRow)) / 1000 + 0.5, 0) * 1000);
+    const Integer wholeCore = CInt(Round(Val(set.TieCell(1, set.LastRow)) / 1000 + 0.5, 0) * 1000);
     span = wholeCore + 500;
   }
-  ViewSpan = span;
-  for (int i = 0; i <= 5; ++i) form.BoreHole(i).ScaleHeight = static_cast<float>(ViewSpan);
+  viewSpan = span;
+  for (int i = 0; i <= 5; ++i) form.BoreHole(i).ScaleHeight = static_cast<float>(viewSpan);
   form.mnuCM.ForEach([](Menu& entry) { entry.Checked = false; });
   form.mnuCM(Span).Checked = true;
   if (Span != kWholeCore) {
     RecentreOnTarget(form);
   } else {
     // A click on the composite column brings the target near the middle of the core.
-    MouseDownProcedure(0, 1, 0, 1.0f, static_cast<Single>(ViewSpan) / 2 - 750);
+    MouseDownProcedure(set, 0, 1, 0, 1.0f, static_cast<Single>(viewSpan) / 2 - 750);
   }
   PanelsFollowColumns(form);
-  RedrawColumns();
-  ClearTargetLine();
-  frmKX11->FollowColumnScale();
+  RedrawColumns(set);
+  ClearTargetLine(set);
+  if (!set.IsDuo) frmKX11->FollowColumnScale();
+}
+
+}  // namespace
+
+void SetViewSpan(Integer Source, Integer Span) {
+  const bool linked = frmMain->mnuLink.Checked;
+  if (Source == 1 || linked) ApplySpan(masterSet, Span);
+  if ((Source == 2 || linked) && frm2Main.IsLoaded()) ApplySpan(duoSet, Span);
 }
 
 void FrmMain::mnuCM_Click(int index) {
-  SetViewSpan(1, index);
+  SetViewSpan(IsDuo() ? 2 : 1, index);
 }
 
+// The link couples the ranges of the two forms; either form's entry sets it
+// on both.
 void FrmMain::mnuLink_Click() {
-  if (mnuLink.Checked) {
-    mnuLink.Checked = false;
-    return;
-  }
-  mnuLink.Checked = true;
-  // The Duo's range menu follows here once the Duo has one.
+  MainForm& master = *frmMain;
+  const bool linked = master.mnuLink.Checked;
+  master.mnuLink.Checked = !linked;
+  if (frm2Main.IsLoaded()) frm2Main->mnuLink.Checked = !linked;
+  if (linked) return;
+  if (frm2Main.IsLoaded()) frm2Main->mnuCM.ForEach([](Menu& entry) { entry.Checked = false; });
   // The entries run from the shortest span up, as the menu lists them.
   int checked = 0;
-  mnuCM.ForEach([&checked](Menu& entry) {
+  master.mnuCM.ForEach([&checked](Menu& entry) {
     if (checked == 0 && entry.Checked) checked = entry.Index();
   });
-  if (checked != 0) SetViewSpan(2, checked);
+  if (checked == 0) return;
+  SetViewSpan(2, checked);
+  if (frm2Main.IsLoaded()) frm2Main->mnuCM(checked).Checked = true;
 }
 
 void FrmMain::mnuDepPrec_Click(int index) {
@@ -126,7 +144,14 @@ void FrmMain::mnuAgePrec_Click(int index) {
 void FrmMain::Form_Resize() {
   try {
     if (Height < kMinimisedHeight) return;
-    // The Duo's form takes this height here once it has its columns.
+    BoreHoleSet& set = SetOf(*this);
+    // The Duo's form keeps the master's height, and its top where the
+    // pointer left the master's form at its top.
+    if (!set.IsDuo && frm2Main.IsLoaded() && frm2Main->Height >= 360) {
+      Frm2Main& duo = *frm2Main;
+      duo.Height = Height.Get();
+      if (FormEdge(0) < 500) duo.Top = std::max(0.0f, FormEdge(2) - duo.Height);
+    }
     if (Height < kLowestFormHeight) Height = kLowestFormHeight;
 
     for (int i = 0; i <= 5; ++i) BoreHole(i).Height = Height - kFormChrome;
@@ -143,7 +168,7 @@ void FrmMain::Form_Resize() {
     }
 
     RecentreOnTarget(*this);
-    for (int i = 0; i <= 4; ++i) BoreHole(i).ScaleHeight = static_cast<float>(ViewSpan);
+    for (int i = 0; i <= 4; ++i) BoreHole(i).ScaleHeight = static_cast<float>(ViewSpanOf(set));
     PanelsFollowColumns(*this);
 
     // The elbow of the target line stays at the middle of the columns.
@@ -152,9 +177,9 @@ void FrmMain::Form_Resize() {
     Line1.Y2 = static_cast<float>(CentreLineY);
     Line2(0).Y1 = static_cast<float>(CentreLineY);
 
-    RedrawColumns();
+    RedrawColumns(set);
     BoreHole(5).Visible = BoreHole(5).Left + BoreHole(5).Width <= Width;
-    ClearTargetLine();
+    ClearTargetLines();
   } catch (const RuntimeFailure&) {
     // A resize never interrupts the user: the layout stays as far as it got.
   }

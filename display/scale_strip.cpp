@@ -1,4 +1,5 @@
 #include "display/scale_strip.h"
+#include "display/form_view.h"
 
 #include "core/project_state.h"
 #include "display/age_ticks.h"
@@ -30,7 +31,7 @@ template <class Number>
 void LabelledTick(PictureBox& strip, float fromX, float y, float textX, Number number) {
   Tick(strip, fromX, y);
   strip.CurrentX = textX;
-  strip.CurrentY = AsSingle(y - ViewSpan * 0.01);
+  strip.CurrentY = AsSingle(y - ViewSpanOf(strip) * 0.01);
   strip.Print(number);
 }
 
@@ -48,7 +49,7 @@ void DrawDepthScale(PictureBox& strip) {
     LabelledTick(strip, 7, 0, 4.8f, 0);
     DrawDepthTicks(strip, 100, 900, 7, 2.8f);
     DrawDepthTicks(strip, 1000, 10000, 7, 1.8f);
-    if (ViewSpan < 2000) {
+    if (ViewSpanOf(strip) < 2000) {
       LabelledTick(strip, 8, 50, 3.8f, 50);
       DrawDepthTicks(strip, 150, 950, 8, 2.8f);
       DrawDepthTicks(strip, 1050, 9950, 8, 1.8f);
@@ -111,12 +112,12 @@ void MarkFixedHorizon(PictureBox& strip) {
 }  // namespace
 
 void DrawBH5(BoreHoleSet& set) {
-  MainForm& form = *frmMain;
+  MainForm& form = MainFormOf(set);
   PictureBox& strip = form.BoreHole(5);
   const PictureBox& composite = form.BoreHole(0);
   // Every tick of the age scale is a lookup in the age-depth model.
   if (form.mnuAge.Checked) Screen.SetMousePointer(kBusyPointer);
-  strip.ScaleHeight = AsSingle(Round(ViewSpan * 1.007, 0) + 0.14);
+  strip.ScaleHeight = AsSingle(Round(ViewSpanOf(set) * 1.007, 0) + 0.14);
   strip.ScaleTop = composite.ScaleTop - (strip.ScaleHeight - composite.ScaleHeight) / 2;
   strip.FontSize = static_cast<float>(LabelFontSize);
   strip.LineBF(strip.ScaleLeft, strip.ScaleTop, strip.ScaleLeft + strip.ScaleWidth,

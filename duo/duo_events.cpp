@@ -3,6 +3,7 @@
 // on the master's composite scale.
 #include <algorithm>
 #include <cmath>
+#include <string>
 
 #include "core/project_state.h"
 #include "duo/depth_map.h"
@@ -19,15 +20,21 @@ namespace {
 
 constexpr long kReminderInterval = 30;
 
-// Scale 2 of the Duo's model holds each row's depth on the master's scale.
 // The cell keeps the whole single: its text has the digits to read it back.
+std::string OnMasterScale(const std::string& duoDepth) {
+  return Str(static_cast<double>(DuoToMaster(CSng(Val(duoDepth)))));
+}
+
+// Scale 2 of the Duo's model holds each row's depth on the master's scale,
+// the bore holes' and, so that the composite column stands with them, the
+// ties'.
 void PlaceModelOnMasterScale() {
   for (int hole = 1; hole <= 4; ++hole) {
     for (long r = 1; r <= LastRow2; ++r) {
-      const Single master = DuoToMaster(CSng(Val(ModelCell2(1, hole, 2, r))));
-      ModelCell2(2, hole, 2, r) = Str(static_cast<double>(master));
+      ModelCell2(2, hole, 2, r) = OnMasterScale(ModelCell2(1, hole, 2, r));
     }
   }
+  for (long r = 1; r <= LastRow2; ++r) TieCell2(2, r) = OnMasterScale(TieCell2(1, r));
 }
 
 }  // namespace

@@ -1,11 +1,8 @@
 // The Duo form's start, its age and varve imports, and its end.
-#include <initializer_list>
-
 #include "core/project_state.h"
 #include "duo/duo_state.h"
 #include "events/age_lookup.h"
 #include "events/age_model.h"
-#include "events/batch_conversion.h"
 #include "events/event_state.h"
 #include "events/varve_counts.h"
 #include "forms/frm2_main.h"
@@ -15,7 +12,20 @@
 
 namespace ostraline {
 
+void FrmMain::mnuOLDuo_Click() {
+  LaunchDuo();
+}
+
+void FrmMain::Image1_Click() {
+  LaunchDuo();
+}
+
+void FrmMain::mnuAlign_Click() {
+  if (frm2Main.IsLoaded()) frmMain->Top = frm2Main->Top.Get();
+}
+
 void FrmMain::LaunchDuo() {
+  if (IsDuo()) return;
   if (!EventListLoaded || DuoOpen) return;
   Frm2Main& duo = *frm2Main;
   duo.Height = Height.Get();
@@ -34,23 +44,13 @@ void FrmMain::LaunchDuo() {
   }
 }
 
-// The Duo's imports begin anew: only its model's button is open.
+// The Duo's form starts as the master's does, on its own set; its imports
+// begin anew, and its columns fit the master's core.
 void Frm2Main::Form_Load() {
+  FrmMain::Form_Load();
   AgeModelLoaded2 = false;
-  DrivenBy2 = 9999;
-  Frame5.Enabled = false;
-  for (Menu* menu : {&mnuAge, &mnuDepth, &mnuRange, &mnuFont, &mnuTool, &mnuInfo}) {
-    menu->Enabled = false;
-  }
-  for (Control* control : std::initializer_list<Control*>{
-           &Command3, &Command4, &Command5, &Command7, &Label5, &Option3(0), &Option3(1)}) {
-    control->Enabled = false;
-  }
-  Option4(1).Value = true;
-  DuoScale = 1;
-  EventCount2 = -9999;
-  MergedEventCount2 = -9999;
-  DrivenBy2 = 0;
+  DuoScale = Option4(0).Value ? 2 : 1;
+  mnuOLDuo.Enabled = false;
 }
 
 void Frm2Main::Form_Unload(int& /*cancel*/) {
@@ -73,13 +73,9 @@ void Frm2Main::Command4_Click() {
   });
 }
 
-void Frm2Main::Command2_Click() {
-  ConvertFromDataFile(duoSet, *this);
-}
-
 void Frm2Main::Command5_Click() {
   if (!ImportVarveCounts(duoSet, *this, *frm2Version)) return;
-  DisplayAge(duoSet, *this);
+  ostraline::DisplayAge(duoSet, *this);
   Command5.Enabled = false;
 }
 

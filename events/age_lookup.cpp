@@ -7,6 +7,7 @@
 #include "core/core_bottom.h"
 #include "core/entry_focus.h"
 #include "core/project_state.h"
+#include "duo/duo_state.h"
 #include "events/event_free_depth.h"
 #include "events/event_state.h"
 #include "events/varve_counts.h"
@@ -256,30 +257,33 @@ void DisplayAge(BoreHoleSet& set, MainForm& form) {
 }
 
 void FrmMain::DisplayAge() {
-  ostraline::DisplayAge(masterSet, *this);
+  ostraline::DisplayAge(SetOf(*this), *this);
 }
 
 void FrmMain::Text4_GotFocus() {
   SaveTargetTexts(*this, true);
-  DriveIndex = 4;
+  SetOf(*this).DriveIndex = 4;
   PointLine2At(*this, Text4);
 }
 
+// The Duo's test has no message: a too deep age on its side simply stands,
+// and its errors carry the confidence levels.
 void FrmMain::Text4_Change() {
-  const Single efd = GetEFDFromAge(CSng(Val(Text4.Text))).ToSingle();
-  const Single cd = EFDToCD(efd).ToSingle();
-  // With the Duo open its own cores may still reach the horizon; their
-  // bottoms join this test with the Duo's model.
-  if (ActionCount != 9999 && BelowEveryCoreBottom(cd) && !DuoOpen) {
-    RefuseBelowCoreBottom(*this);
+  BoreHoleSet& set = SetOf(*this);
+  const Single efd = GetEFDFromAge(set, CSng(Val(Text4.Text))).ToSingle();
+  const Single cd = EFDToCD(set, efd).ToSingle();
+  // With the Duo open its own cores may still reach the horizon.
+  if (!set.IsDuo && ActionCount != 9999 && BelowEveryCoreBottom(masterSet, cd) &&
+      (!DuoOpen || BelowEveryCoreBottom(duoSet, cd))) {
+    RefuseBelowCoreBottom(set, *this);
     return;
   }
-  if (DriveIndex == 4) {
-    const Variant typed = GetEFDFromAge(CSng(Val(Text4.Text)));
+  if (set.DriveIndex == 4) {
+    const Variant typed = GetEFDFromAge(set, CSng(Val(Text4.Text)));
     Text3.Text = Str(Round(typed.ToDouble(), DepthPrecision));
   }
-  ShowUnit(masterSet, *this);
-  ShowErrors(masterSet, *this, false);
+  ShowUnit(set, *this);
+  ShowErrors(set, *this, set.IsDuo);
 }
 
 }  // namespace ostraline

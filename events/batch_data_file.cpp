@@ -130,7 +130,7 @@ void ConvertFromDataFile(BoreHoleSet& set, MainForm& form) {
 }
 
 void FrmMain::Command2_Click() {
-  ConvertFromDataFile(masterSet, *this);
+  ConvertFromDataFile(SetOf(*this), *this);
 }
 
 }  // namespace ostraline

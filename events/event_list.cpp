@@ -221,14 +221,15 @@ void CombineAndSortEvents(BoreHoleSet& set, MainForm& form) {
 }
 
 void FrmMain::CombineAndSortEvents() {
-  ostraline::CombineAndSortEvents(masterSet, *this);
+  ostraline::CombineAndSortEvents(SetOf(*this), *this);
 }
 
 // The road from composite depth to EFD: each write of Label1(8) refreshes the
 // EFD box in full digits, and only this write makes Text3 follow Text2.
 void FrmMain::Label1_Change(int index) {
-  if (index != 8 || !EventListLoaded) return;
-  const Single efd = CDToEFD(CSng(Val(Label1(8).Caption))).ToSingle();
+  BoreHoleSet& set = SetOf(*this);
+  if (index != 8 || !set.EventListLoaded) return;
+  const Single efd = CDToEFD(set, CSng(Val(Label1(8).Caption))).ToSingle();
   Label1(10).Caption = Str(efd);
   Text3.Text = Str(efd);
 }

@@ -1,15 +1,12 @@
 #pragma once
-// The export dialog of a proxy panel of the Duo.
-#include "forms/form.h"
+// The Duo's export dialog of a panel, the same form as the master's.
+#include "forms/frm_export.h"
 
 namespace ostraline {
 
-class Frm2Export : public Form {
+class Frm2Export : public FrmExport {
  public:
-  Frm2Export() : Form("frm2Export", "Export (Duo)") {
-    Width.SetQuietly(4080);
-    Height.SetQuietly(2070);
-  }
+  Frm2Export() : FrmExport("frm2Export", "Export (Duo)") {}
 };
 
 inline FormRef<Frm2Export> frm2Export{"frm2Export"};

@@ -4,7 +4,7 @@
 
 namespace ostraline {
 
-Frm2Main::Frm2Main() : MainForm("frm2Main", "OstralineDuo", kDuoHoleNames) {
+Frm2Main::Frm2Main() : FrmMain("frm2Main", "OstralineDuo", kDuoHoleNames, true) {
   Option4(0).Caption.SetQuietly("Fit to the master core");
   Option4(1).Caption.SetQuietly("Duo's own depth");
   Label1(0).Caption.SetQuietly("Master");
@@ -25,7 +25,6 @@ void Frm2Main::WireHandlers() {
   Command3.Click = [this] { Command3_Click(); };
   Command4.Click = [this] { Command4_Click(); };
   Command5.Click = [this] { Command5_Click(); };
-  Command2.Click = [this] { Command2_Click(); };
   Timer1.TimerEvent = [this] { Timer1_Timer(); };
 }
 

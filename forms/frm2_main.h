@@ -2,11 +2,11 @@
 // The Duo: the second main form, for the parallel set of bore holes. It has
 // the master's controls, a reminder that throbs until the Duo's event list
 // is imported, and the Duo's own handlers.
-#include "forms/main_form.h"
+#include "forms/frm_main.h"
 
 namespace ostraline {
 
-class Frm2Main : public MainForm {
+class Frm2Main : public FrmMain {
  public:
   Frm2Main();
 
@@ -28,9 +28,6 @@ class Frm2Main : public MainForm {
   void Timer1_Timer();
   void Command4_Click();
   void Command5_Click();
-
-  // Batch conversion of a data file through the Duo's tables.
-  void Command2_Click();
 
  private:
   void WireHandlers();

@@ -1,15 +1,13 @@
 #pragma once
-// What the single position number of a proxy record of the Duo is.
-#include "forms/form.h"
+// The Duo's vertical axis dialog for a record of plain positions, the same
+// form as the master's.
+#include "forms/frm_select.h"
 
 namespace ostraline {
 
-class Frm2Select : public Form {
+class Frm2Select : public FrmSelect {
  public:
-  Frm2Select() : Form("frm2Select", "Vertical axis (Duo)") {
-    Width.SetQuietly(6600);
-    Height.SetQuietly(4530);
-  }
+  Frm2Select() : FrmSelect("frm2Select", "Vertical axis (Duo)") {}
 };
 
 inline FormRef<Frm2Select> frm2Select{"frm2Select"};

@@ -2,7 +2,7 @@
 
 namespace ostraline {
 
-FrmDivider::FrmDivider() : Form("frmDivider", "Level Divider") {
+FrmDivider::FrmDivider(const char* name, const char* caption) : Form(name, caption) {
   Width.SetQuietly(5895);
   Height.SetQuietly(4230);
 

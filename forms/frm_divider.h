@@ -11,7 +11,7 @@ namespace ostraline {
 
 class FrmDivider : public Form {
  public:
-  FrmDivider();
+  FrmDivider() : FrmDivider("frmDivider", "Level Divider") {}
 
   ControlArray<ComboBox> Combo1{*this, "Combo1"};
   ControlArray<Label> Label2{*this, "Label2"};
@@ -50,6 +50,9 @@ class FrmDivider : public Form {
   void Text2_Change();
   void Option1_Click();
   void Option2_Click();
+
+ protected:
+  FrmDivider(const char* name, const char* caption);
 };
 
 inline FormRef<FrmDivider> frmDivider{"frmDivider"};

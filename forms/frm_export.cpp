@@ -2,7 +2,7 @@
 
 namespace ostraline {
 
-FrmExport::FrmExport() : Form("frmExport", "Export") {
+FrmExport::FrmExport(const char* name, const char* caption) : Form(name, caption) {
   Width.SetQuietly(4080);
   Height.SetQuietly(2070);
 

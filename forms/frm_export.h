@@ -7,7 +7,7 @@ namespace ostraline {
 
 class FrmExport : public Form {
  public:
-  FrmExport();
+  FrmExport() : FrmExport("frmExport", "Export") {}
 
   // The panel number as text.
   Label Label1{*this, "Label1"};
@@ -20,6 +20,9 @@ class FrmExport : public Form {
   void Command1_Click();
   void Form_Unload(int& cancel) override;
   void Form_Terminate();
+
+ protected:
+  FrmExport(const char* name, const char* caption);
 };
 
 inline FormRef<FrmExport> frmExport{"frmExport"};

@@ -4,7 +4,9 @@
 
 namespace ostraline {
 
-FrmMain::FrmMain() : MainForm("frmMain", "Ostraline 7.7.4", kMasterHoleNames) {
+FrmMain::FrmMain(const char* name, const char* caption, const std::array<const char*, 4>& holeNames,
+                 bool isDuo)
+    : MainForm(name, caption, holeNames, isDuo) {
   WireHandlers();
 }
 

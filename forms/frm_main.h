@@ -1,13 +1,14 @@
 #pragma once
 // The master's main form: the shared control model and the master's
 // handlers, each defined in the subsystem that owns it.
+#include "forms/hole_names.h"
 #include "forms/main_form.h"
 
 namespace ostraline {
 
 class FrmMain : public MainForm {
  public:
-  FrmMain();
+  FrmMain() : FrmMain("frmMain", "Ostraline 7.7.4", kMasterHoleNames, false) {}
 
   // Start-up and shutdown.
   void Form_Load() override;
@@ -74,8 +75,11 @@ class FrmMain : public MainForm {
   void Image1_DblClick();
   void Slider1_MouseMove();
 
-  // The Duo, opened beside this form.
+  // The Duo, opened beside this form, and the two forms aligned.
   void LaunchDuo();
+  void mnuOLDuo_Click();
+  void Image1_Click();
+  void mnuAlign_Click();
 
   // The level divider.
   void mnuDivider_Click();
@@ -130,6 +134,10 @@ class FrmMain : public MainForm {
   void mnuDepPrec_Click(int index);
   void mnuAgePrec_Click(int index);
   void Form_Resize() override;
+
+ protected:
+  FrmMain(const char* name, const char* caption, const std::array<const char*, 4>& holeNames,
+          bool isDuo);
 
  private:
   void WireHandlers();

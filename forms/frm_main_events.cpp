@@ -15,6 +15,9 @@ void FrmMain::WireHandlers() {
   mnuKX11.Click = [this] { mnuKX11_Click(); };
   mnuVersion.Click = [this] { mnuVersion_Click(); };
   Image1.DblClick = [this] { Image1_DblClick(); };
+  Image1.Click = [this] { Image1_Click(); };
+  mnuOLDuo.Click = [this] { mnuOLDuo_Click(); };
+  mnuAlign.Click = [this] { mnuAlign_Click(); };
   Slider1.MouseMove = [this](int, int, float, float) { Slider1_MouseMove(); };
 
   // The level divider.

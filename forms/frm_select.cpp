@@ -2,7 +2,7 @@
 
 namespace ostraline {
 
-FrmSelect::FrmSelect() : Form("frmSelect", "Vertical axis") {
+FrmSelect::FrmSelect(const char* name, const char* caption) : Form(name, caption) {
   Width.SetQuietly(6600);
   Height.SetQuietly(4530);
 

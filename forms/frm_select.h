@@ -8,7 +8,7 @@ namespace ostraline {
 
 class FrmSelect : public Form {
  public:
-  FrmSelect();
+  FrmSelect() : FrmSelect("frmSelect", "Vertical axis") {}
 
   // "Index" at first; the panel number once the form is in use.
   Label Label1{*this, "Label1"};
@@ -30,6 +30,9 @@ class FrmSelect : public Form {
   void Cell_MouseMove(ControlArray<TextBox>& column, int row);
   void Form_MouseMove(int button, int shift, float x, float y) override;
   void Frame1_MouseMove();
+
+ protected:
+  FrmSelect(const char* name, const char* caption);
 };
 
 inline FormRef<FrmSelect> frmSelect{"frmSelect"};

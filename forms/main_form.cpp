@@ -20,8 +20,8 @@ void SetCaption(Captioned& c, const char* text) {
 }  // namespace
 
 MainForm::MainForm(const char* name, const char* caption,
-                   const std::array<const char*, 4>& holeNames)
-    : Form(name, caption) {
+                   const std::array<const char*, 4>& holeNames, bool isDuo)
+    : Form(name, caption), isDuo_(isDuo) {
   Layout(holeNames);
   BuildMenus(holeNames);
 }

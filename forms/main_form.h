@@ -11,6 +11,9 @@ namespace ostraline {
 
 class MainForm : public Form {
  public:
+  // frm2Main, the Duo's form for the parallel set, rather than frmMain.
+  bool IsDuo() const { return isDuo_; }
+
   // The import frame and the buttons of the import chain.
   Frame Frame4{*this, "Frame4"};
   CommandButton Command1{*this, "Command1"};
@@ -126,9 +129,11 @@ class MainForm : public Form {
 
  protected:
   // The form's name, its caption and the default names of its bore holes.
-  MainForm(const char* name, const char* caption, const std::array<const char*, 4>& holeNames);
+  MainForm(const char* name, const char* caption, const std::array<const char*, 4>& holeNames,
+           bool isDuo);
 
  private:
+  bool isDuo_;
   void Layout(const std::array<const char*, 4>& holeNames);
   void BuildMenus(const std::array<const char*, 4>& holeNames);
 };

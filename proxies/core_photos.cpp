@@ -271,7 +271,7 @@ void FrmPhoto::Image1_MouseDown(int button, int, float x, float y) {
 // move until the button is let go: Image2 follows the pointer.
 void FrmPhoto::Image1_MouseMove(int, int, float x, float y) {
   const int k = K();
-  if (frmMain.IsLoaded()) ClearTargetLine();
+  if (frmMain.IsLoaded()) ClearTargetLines();
   if (!PhotoDragging(k)) return;
   const int zoom = PhotoZoom(k);
   if (PhotoPortrait(k)) {

@@ -20,7 +20,7 @@ void EnableMainForms() {
 void FrmExport::Command1_Click() {
   MsgBox("Sorry, this function is under construction.", MsgButtons::Ok, "Ostraline");
   EnableMainForms();
-  frmExport.Unload();
+  Unload(Name());
 }
 
 void FrmExport::Form_Unload(int& /*cancel*/) {

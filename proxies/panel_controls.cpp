@@ -12,7 +12,7 @@ namespace {
 void RefitPanel(MainForm& form, int p) {
   form.Text5(p).Text = "";
   form.Text6(p).Text = "";
-  DrawProxy(p);
+  DrawPanel(form, p);
   if (form.Text2.Enabled) form.Text2.SetFocus();
 }
 
@@ -22,13 +22,13 @@ void LimitChanged(MainForm& form, int p) {
     panel.Cls();
     return;
   }
-  if (!ProxyLoaded(p)) return;
+  if (!ProxiesOf(SetOf(form)).ProxyLoaded(p)) return;
   // Equal limits would give the axis no width.
   if (form.Text5(p).Text.Get() == form.Text6(p).Text.Get()) {
     panel.Cls();
     return;
   }
-  DrawProxy(p);
+  DrawPanel(form, p);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 // picture, and the export dialog.
 #include <string>
 
+#include "forms/frm2_export.h"
 #include "forms/frm2_main.h"
 #include "forms/frm_export.h"
 #include "forms/frm_main.h"
@@ -27,7 +28,7 @@ void ChooseSmoothing(MainForm& form, Menu& chosen, int p) {
     }
     chosen.Checked = true;
   }
-  DrawProxy(p);
+  DrawPanel(form, p);
 }
 
 }  // namespace
@@ -54,23 +55,23 @@ void FrmMain::mnuFlipH_Click(int p) {
   const std::string left = Text5(p).Text.Get();
   Text5(p).Text = Text6(p).Text.Get();
   Text6(p).Text = left;
-  DrawProxy(p);
+  DrawPanel(*this, p);
 }
 
 void FrmMain::mnuLine_Click(int p) {
   Toggle(mnuLine(p));
-  DrawProxy(p);
+  DrawPanel(*this, p);
 }
 
 void FrmMain::mnuMarker_Click(int p) {
   Toggle(mnuMarker(p));
-  DrawProxy(p);
+  DrawPanel(*this, p);
 }
 
 // Nothing reads this mark; the redraw gives the same picture.
 void FrmMain::mnuMulti_0_Click() {
   Toggle(mnuMulti_0);
-  DrawProxy(0);
+  DrawPanel(*this, 0);
 }
 
 // The committed picture: curve, overlay and background, not the target line.
@@ -83,11 +84,13 @@ void FrmMain::mnuFilename_Click(int p) {
   Toggle(mnuFilename(p));
 }
 
-// The dialog gives both main forms back when it closes. A Duo form that is
-// not loaded starts enabled; touching it here would load it.
+// The dialog, the master's or the Duo's, gives both main forms back when it
+// closes. A Duo form that is not loaded starts enabled; touching it here
+// would load it.
 void FrmMain::mnuExport__Click(int p) {
-  frmExport->Label1.Caption = Str(p);
-  frmExport->Show();
+  FrmExport& dialog = IsDuo() ? static_cast<FrmExport&>(*frm2Export) : *frmExport;
+  dialog.Label1.Caption = Str(p);
+  dialog.Show();
   Enabled = false;
   if (frm2Main.IsLoaded()) frm2Main->Enabled = false;
   Screen.SetMousePointer(0);

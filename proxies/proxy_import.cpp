@@ -10,8 +10,11 @@
 
 #include "core/import_pattern.h"
 #include "core/project_state.h"
+#include "display/form_view.h"
+#include "duo/depth_map.h"
 #include "events/event_free_depth.h"
 #include "events/event_state.h"
+#include "forms/frm2_select.h"
 #include "forms/frm_main.h"
 #include "forms/frm_select.h"
 #include "forms/platform.h"
@@ -88,10 +91,10 @@ void StoreRecord(ProxyRecords& records, int p, const ProxyWork& work) {
 // The EFD of panel 0's record, whichever panel was imported, for as many
 // rows as the imported record has columns: with panel 0 empty or shorter,
 // the import fails here.
-void EfdPass(ProxyRecords& records, int p) {
+void EfdPass(BoreHoleSet& set, ProxyRecords& records, int p) {
   Table<Single, 2>& depth = records.ProxyDepth(0);
   for (long i = 1; i <= records.ProxyColumnCount(p); ++i) {
-    depth(2, i) = EventListLoaded ? CDToEFD(depth(1, i)).ToSingle() : depth(1, i);
+    depth(2, i) = set.EventListLoaded ? CDToEFD(set, depth(1, i)).ToSingle() : depth(1, i);
   }
 }
 
@@ -104,9 +107,8 @@ void EnablePanelMenus(MainForm& form, int p) {
 }
 
 // The head of the file on frmSelect: its first three fields and eight samples.
-void PreviewOnSelect(const MainForm& form, const ProxyRecords& records, int p,
+void PreviewOnSelect(const MainForm& form, FrmSelect& select, const ProxyRecords& records, int p,
                      const ProxyWork& work) {
-  FrmSelect& select = *frmSelect;
   select.Label1.Caption = Str(p);
   select.Top = std::max(form.Top.Get() + 15, 15.0f);
   select.Left = std::max(form.Left.Get() + 15, 15.0f);
@@ -133,7 +135,12 @@ void PreviewOnSelect(const MainForm& form, const ProxyRecords& records, int p,
 
 }  // namespace
 
+// The Duo's trinity records are placed on the master's composite scale, on
+// which its panels stand; a record of plain positions goes to the set's own
+// vertical axis dialog.
 void FrmMain::Command6_Click(int p) {
+  BoreHoleSet& set = SetOf(*this);
+  ProxyRecords& records = ProxiesOf(set);
   bool setUp = false;
   try {
     CommonDialog1.CancelError = true;
@@ -141,7 +148,7 @@ void FrmMain::Command6_Click(int p) {
     CommonDialog1.ShowOpen();
     const std::string path = CommonDialog1.FileName;
     FieldReader file = FieldReader::Open(path);
-    ProxyFileName(p) = RecordName(path);
+    records.ProxyFileName(p) = RecordName(path);
 
     Refresh();
     ProgressBar1.Max = 100;
@@ -151,30 +158,36 @@ void FrmMain::Command6_Click(int p) {
     setUp = true;
 
     ProxyWork work;
-    RecogniseLayout(masterSet, file, work);
-    ProxyColumnCount(p) = static_cast<int>(work.columns);
-    ProxyHasLabel(p) = work.layout == ProxyLayout::L2 || work.layout == ProxyLayout::L4;
-    ProxyHasTrinity(p) = work.layout == ProxyLayout::L3 || work.layout == ProxyLayout::L4;
-    ReadProxyRows(masterSet, file, work);
-    ProxyRowCount(p) = work.rows;
-    if (ProxyHasTrinity(p)) KeepOpenUntilTheEnd(path);
+    RecogniseLayout(set, file, work);
+    records.ProxyColumnCount(p) = static_cast<int>(work.columns);
+    records.ProxyHasLabel(p) = work.layout == ProxyLayout::L2 || work.layout == ProxyLayout::L4;
+    records.ProxyHasTrinity(p) = work.layout == ProxyLayout::L3 || work.layout == ProxyLayout::L4;
+    ReadProxyRows(set, file, work);
+    records.ProxyRowCount(p) = work.rows;
+    if (records.ProxyHasTrinity(p)) KeepOpenUntilTheEnd(path);
 
     FillColumnLists(*this, p, work);
-    StoreRecord(masterProxies, p, work);
-    EfdPass(masterProxies, p);
-    ProxyLoaded(p) = true;
+    StoreRecord(records, p, work);
+    EfdPass(set, records, p);
+    records.ProxyLoaded(p) = true;
     EnablePanelMenus(*this, p);
     Enabled = false;
     Screen.SetMousePointer(0);
-    PlotScale = DepthAxis;
+    PlotScale = ColumnScaleOf(set);
     // A record of fewer than eight rows fails here, with the form disabled.
-    PreviewOnSelect(*this, masterProxies, p, work);
-    if (ProxyHasTrinity(p)) {
+    PreviewOnSelect(*this, SelectFormOf(set), records, p, work);
+    if (records.ProxyHasTrinity(p)) {
+      if (set.IsDuo) {
+        for (long row = 1; row <= records.ProxyRowCount(p); ++row) {
+          Single& depth = records.ProxyDepth(p)(1, row);
+          depth = DuoToMaster(depth);
+        }
+      }
       Picture1(p).BackColor = RGB(255, 255, 255);
-      DrawProxy(p);
+      DrawProxy(set, records, p);
       Enabled = true;
     } else {
-      frmSelect->Show();
+      SelectFormOf(set).Show();
     }
   } catch (const RuntimeFailure&) {
     if (setUp) ShowFormatError();

@@ -2,6 +2,8 @@
 // call, and every scroll of the core view calls it for each loaded panel.
 #include "proxies/proxy_panel.h"
 
+#include "display/form_view.h"
+
 #include <cmath>
 #include <initializer_list>
 #include <string>
@@ -116,12 +118,13 @@ void PaintEventLayers(BoreHoleSet& set, MainForm& form, PictureBox& panel) {
   if (!set.EventListLoaded) return;
   int topColumn = EventColumnTop;
   int bottomColumn = 0;
-  if (DepthAxis == 1) {
+  const Integer scale = ColumnScaleOf(set);
+  if (scale == 1) {
     topColumn = 6;
     bottomColumn = 7;
-  } else if (DepthAxis == 2) {
+  } else if (scale == 2) {
     topColumn = bottomColumn = 8;
-  } else if (DepthAxis == 3) {
+  } else if (scale == 3) {
     topColumn = bottomColumn = 9;
   }
   const float viewTop = form.Picture1(0).ScaleTop;
@@ -211,17 +214,19 @@ long FirstHiddenRow(const ProxyRecords& records, int p, const PictureBox& panel)
   return hidden;
 }
 
-void SmoothingOverlays(MainForm& form, int p, long first, long hidden) {
-  if (form.mnuFlat3_(p).Checked) SmoothProxy3(p, first, hidden);
-  if (form.mnuFlat5_(p).Checked) SmoothProxy5(p, first, hidden);
-  if (form.mnuFlat11_(p).Checked) SmoothProxy11(p, first, hidden);
-  if (form.mnuFlat208_(p).Checked) SmoothProxy208(p, first, hidden);
+void SmoothingOverlays(MainForm& form, const ProxyRecords& records, int p, long first,
+                       long hidden) {
+  PictureBox& panel = form.Picture1(p);
+  if (form.mnuFlat3_(p).Checked) SmoothProxy3(records, panel, p, first, hidden);
+  if (form.mnuFlat5_(p).Checked) SmoothProxy5(records, panel, p, first, hidden);
+  if (form.mnuFlat11_(p).Checked) SmoothProxy11(records, panel, p, first, hidden);
+  if (form.mnuFlat208_(p).Checked) SmoothProxy208(records, panel, p, first, hidden);
 }
 
 }  // namespace
 
 void DrawProxy(BoreHoleSet& set, ProxyRecords& records, int p) {
-  MainForm& form = *frmMain;
+  MainForm& form = MainFormOf(set);
   PictureBox& panel = form.Picture1(p);
   const bool marker = form.mnuMarker(p).Checked;
   const bool curve = form.mnuLine(p).Checked;
@@ -242,7 +247,7 @@ void DrawProxy(BoreHoleSet& set, ProxyRecords& records, int p) {
     Screen.SetMousePointer(0);
   };
   try {
-    PlotScale = DepthAxis;
+    PlotScale = ColumnScaleOf(set);
     CurveColour = kCurveBlue;
     ChooseColumn(records, p, form.Combo3(p).Text, records.ProxyColumnA(p));
     ChooseColumn(records, p, form.Combo4(p).Text, records.ProxyColumnB(p));
@@ -290,13 +295,18 @@ void DrawProxy(BoreHoleSet& set, ProxyRecords& records, int p) {
   }
 
   try {
-    SmoothingOverlays(form, p, first, hidden);
+    SmoothingOverlays(form, records, p, first, hidden);
   } catch (const RuntimeFailure&) {
     // A record too short for its window draws no overlay, and says nothing.
     lastStep();
   }
   for (int k = 0; k <= 4; ++k) form.Picture1(k).CommitImage();
-  MarkTargetsOnPanels();
+  MarkTargetsOnPanels(set);
+}
+
+void DrawPanel(MainForm& form, int p) {
+  BoreHoleSet& set = SetOf(form);
+  DrawProxy(set, ProxiesOf(set), p);
 }
 
 }  // namespace ostraline

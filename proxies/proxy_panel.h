@@ -13,5 +13,8 @@ void DrawProxy(BoreHoleSet& set, ProxyRecords& records, int p);
 inline void DrawProxy(int p) {
   DrawProxy(masterSet, masterProxies, p);
 }
+class MainForm;
+// Panel p of a main form, from the form's own records.
+void DrawPanel(MainForm& form, int p);
 
 }  // namespace ostraline

@@ -17,4 +17,8 @@ ProxyRecords::ProxyRecords() {
   ProxyMin.DimUpper(4);
 }
 
+ProxyRecords& ProxiesOf(const BoreHoleSet& set) {
+  return set.IsDuo ? duoProxies : masterProxies;
+}
+
 }  // namespace ostraline

@@ -1,9 +1,10 @@
 #pragma once
 // The proxy records of the five panels: one measured record per panel, with
 // its rows' positions, its columns' names and values. The master's panels
-// are one instance; the Duo's panels will be another, with the same tables.
+// are one instance; the Duo's panels another, with the same tables.
 #include <string>
 
+#include "core/bore_hole_set.h"
 #include "runtime/checked_int.h"
 #include "runtime/table.h"
 
@@ -35,8 +36,11 @@ struct ProxyRecords {
   Table<Single> ProxyMin;
 };
 
-// The master's panels.
+// The master's panels, and the Duo's.
 inline ProxyRecords masterProxies;
+inline ProxyRecords duoProxies;
+// The panels of a set's main form.
+ProxyRecords& ProxiesOf(const BoreHoleSet& set);
 
 inline auto& ProxyFileName = masterProxies.ProxyFileName;
 inline auto& ProxyLoaded = masterProxies.ProxyLoaded;

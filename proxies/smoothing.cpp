@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "display/display_state.h"
-#include "forms/frm_main.h"
+#include "forms/canvas.h"
 #include "proxies/proxy_records.h"
 #include "runtime/checked_int.h"
 
@@ -43,19 +43,19 @@ Single Plotted(long row) {
   return ProxyPlot(0, row);
 }
 
-Single Depth(int p, long row) {
-  return ProxyDepth(p)(PlotScale, row);
+Single Depth(const ProxyRecords& records, int p, long row) {
+  return records.ProxyDepth(p)(PlotScale, row);
 }
 
 // Reads every tested row, so that a window past the table's end fails even
 // where an earlier row has no value.
-bool WindowsUsable(const RunningMean& mean, int p, long i) {
+bool WindowsUsable(const RunningMean& mean, const ProxyRecords& records, int p, long i) {
   bool usable = true;
   for (long k = i + mean.testedFrom; k <= i + mean.testedTo; ++k) {
     if (std::fabs(Plotted(k)) == kNoValue) usable = false;
   }
   for (long k = i + mean.testedFrom; k < i + mean.testedTo; ++k) {
-    if (Depth(p, k) > Depth(p, k + 1)) usable = false;
+    if (Depth(records, p, k) > Depth(records, p, k + 1)) usable = false;
   }
   return usable;
 }
@@ -105,9 +105,9 @@ void Means(const RunningMean& mean, long i, ReadX x, ReadY y, Point& first, Poin
 // fail there as a pass would.
 class WalkRows {
  public:
-  explicit WalkRows(int p) {
-    last_ = std::min(
-        {static_cast<long>(ProxyRowCount(p)), ProxyPlot.UBound(2), ProxyDepth(p).UBound(2)});
+  WalkRows(const ProxyRecords& records, int p) {
+    last_ = std::min({static_cast<long>(records.ProxyRowCount(p)), ProxyPlot.UBound(2),
+                      records.ProxyDepth(p).UBound(2)});
     const auto count = static_cast<std::size_t>(std::max(last_ + 1, 0L));
     plotted_.resize(count);
     depth_.resize(count);
@@ -115,7 +115,7 @@ class WalkRows {
     falls_.assign(count + 1, 0);
     for (long k = 0; k <= last_; ++k) {
       plotted_[k] = Plotted(k);
-      depth_[k] = Depth(p, k);
+      depth_[k] = Depth(records, p, k);
       noValue_[k + 1] = noValue_[k] + (std::fabs(plotted_[k]) == kNoValue ? 1 : 0);
       if (k > 0) falls_[k] = falls_[k - 1] + (depth_[k - 1] > depth_[k] ? 1 : 0);
     }
@@ -143,13 +143,13 @@ class WalkRows {
 // drawing's handler. Only the first pass can fail, the later ones reading no
 // row past R-1, so it runs whatever `hidden` is; a later pass whose tested
 // rows all lie from `hidden` on has both means below the view and is left out.
-void DrawRunningMean(const RunningMean& mean, int p, long F, long hidden) {
-  PictureBox& panel = frmMain->Picture1(p);
-  const long rowCount = ProxyRowCount(p);
+void DrawRunningMean(const RunningMean& mean, const ProxyRecords& records, PictureBox& panel, int p,
+                     long F, long hidden) {
+  const long rowCount = records.ProxyRowCount(p);
   if (rowCount >= mean.guard) {
     Long i = F < mean.lowestFirst ? mean.lowestFirst : F;
     panel.DrawWidth = CInt(1.5);
-    const WalkRows rows(p);
+    const WalkRows rows(records, p);
     const long last = rowCount - mean.lastBeforeEnd;
     do {
       const long from = i + mean.testedFrom;
@@ -163,9 +163,9 @@ void DrawRunningMean(const RunningMean& mean, int p, long F, long hidden) {
               second);
           panel.Line(first.x, first.y, second.x, second.y, kRed);
         }
-      } else if (WindowsUsable(mean, p, i)) {
+      } else if (WindowsUsable(mean, records, p, i)) {
         Means(
-            mean, i, Plotted, [p](long k) { return Depth(p, k); }, first, second);
+            mean, i, Plotted, [&](long k) { return Depth(records, p, k); }, first, second);
         panel.Line(first.x, first.y, second.x, second.y, kRed);
       }
       ++i;
@@ -176,20 +176,20 @@ void DrawRunningMean(const RunningMean& mean, int p, long F, long hidden) {
 
 }  // namespace
 
-void SmoothProxy3(int p, long F, long hidden) {
-  DrawRunningMean(kMean3, p, F, hidden);
+void SmoothProxy3(const ProxyRecords& records, PictureBox& panel, int p, long F, long hidden) {
+  DrawRunningMean(kMean3, records, panel, p, F, hidden);
 }
 
-void SmoothProxy5(int p, long F, long hidden) {
-  DrawRunningMean(kMean5, p, F, hidden);
+void SmoothProxy5(const ProxyRecords& records, PictureBox& panel, int p, long F, long hidden) {
+  DrawRunningMean(kMean5, records, panel, p, F, hidden);
 }
 
-void SmoothProxy11(int p, long F, long hidden) {
-  DrawRunningMean(kMean11, p, F, hidden);
+void SmoothProxy11(const ProxyRecords& records, PictureBox& panel, int p, long F, long hidden) {
+  DrawRunningMean(kMean11, records, panel, p, F, hidden);
 }
 
-void SmoothProxy208(int p, long F, long hidden) {
-  DrawRunningMean(kMean208, p, F, hidden);
+void SmoothProxy208(const ProxyRecords& records, PictureBox& panel, int p, long F, long hidden) {
+  DrawRunningMean(kMean208, records, panel, p, F, hidden);
 }
 
 }  // namespace ostraline

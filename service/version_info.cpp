@@ -31,7 +31,11 @@ void ShowVersions(FrmVersion& form, const BoreHoleSet& set) {
 }  // namespace
 
 void FrmMain::mnuVersion_Click() {
-  frmVersion->Show();
+  if (IsDuo()) {
+    frm2Version->Show();
+  } else {
+    frmVersion->Show();
+  }
 }
 
 void FrmVersion::Form_Load() {

@@ -177,7 +177,7 @@ TEST_F(CoreColumns, boreHoleWithoutSectionTopIsGreyAndDisabledAndThePointerLineC
   EXPECT_EQ(Count(3, Mark(RGB(0, 170, 0), 250)), 1);
   const std::size_t base = Ops(1).size();
 
-  TargetLine(300);
+  TargetLine(masterSet, 300);
   for (int i = 0; i <= 4; ++i) {
     const auto& overlay = frmMain->BoreHole(i).WorkingOps();
     ASSERT_EQ(overlay.size(), 1u);
@@ -190,7 +190,7 @@ TEST_F(CoreColumns, boreHoleWithoutSectionTopIsGreyAndDisabledAndThePointerLineC
   EXPECT_EQ(strip[1].kind, DrawKind::Circle);
   EXPECT_EQ(Ops(1).size(), base);
 
-  ClearTargetLine();
+  ClearTargetLine(masterSet);
   for (int i = 0; i <= 5; ++i) EXPECT_TRUE(frmMain->BoreHole(i).WorkingOps().empty());
   EXPECT_EQ(Ops(1).size(), base);
 
@@ -198,7 +198,7 @@ TEST_F(CoreColumns, boreHoleWithoutSectionTopIsGreyAndDisabledAndThePointerLineC
   frmMain->mnuHorizontal.Click();
   EXPECT_FALSE(frmMain->mnuHorizontal.Checked);
   for (int p = 0; p <= 4; ++p) EXPECT_FALSE(frmMain->mnuHorizontalN(p).Checked);
-  TargetLine(300);
+  TargetLine(masterSet, 300);
   EXPECT_TRUE(frmMain->BoreHole(1).WorkingOps().empty());
   EXPECT_EQ(frmMain->BoreHole(5).WorkingOps().size(), 2u);
   frmMain->mnuHorizontalN(3).Click();

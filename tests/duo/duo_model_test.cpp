@@ -15,6 +15,7 @@
 #include "forms/frm2_main.h"
 #include "forms/frm_conversion.h"
 #include "forms/frm_main.h"
+#include "forms/platform.h"
 #include "runtime/number_text.h"
 #include "support/age_files.h"
 #include "support/fresh_program.h"
@@ -283,6 +284,110 @@ TEST_F(DuoProgram, BothFormsConvertPositionsOfBothSets) {
             "\"S2\",\"A\",\"02\",\"40\",250,250\r\n"
             "\"S3\",\"Q\",\"01\",\"10\",9999,9999\r\n");
   EXPECT_EQ(platform.messages.size(), 1u);  // the question for the Duo's event list
+}
+
+// The Duo opened on the screen with its model and event list, each form's
+// composite depth box counted as its change handler runs.
+class DuoOnScreen : public DuoProgram {
+ protected:
+  void SetUp() override {
+    DuoProgram::SetUp();
+    platform.QueueFile(WriteTempFile("duo_20120101.csv", DuoModel(true)));
+    platform.QueueAnswer(MsgAnswer::Yes);
+    platform.QueueFile(WriteTempFile("duo_events_20120201.csv", kNoLayer));
+    frm2Main->Command1_Click();
+    ASSERT_TRUE(DuoOpen && EventListLoaded2);
+    platform.messages.clear();
+    Count(*frmMain, masterChanges);
+    Count(*frm2Main, duoChanges);
+  }
+  static void Count(MainForm& form, int& changes) {
+    auto handler = form.Text2.Change;
+    form.Text2.Change = [handler, &changes] {
+      ++changes;
+      handler();
+    };
+  }
+  // A user's entry into a composite depth box.
+  static void Type(MainForm& form, const std::string& depth) {
+    int key = 13;
+    static_cast<FrmMain&>(form).Text2_GotFocus();
+    static_cast<FrmMain&>(form).Text2_KeyDown(key, 0);
+    form.Text2.Text = depth;
+  }
+  int masterChanges = 0;
+  int duoChanges = 0;
+};
+
+TEST_F(DuoOnScreen, AHorizonCrossesToTheOtherFormOnceAndOnlyOnce) {
+  Type(*frmMain, "230");
+  EXPECT_EQ(masterChanges, 1);
+  EXPECT_EQ(duoChanges, 1);
+  EXPECT_EQ(frm2Main->Text2.Text.Get(), "200");
+  EXPECT_EQ(ActionCount, 1);
+
+  masterChanges = duoChanges = 0;
+  Type(*frm2Main, "150");
+  EXPECT_EQ(duoChanges, 1);
+  EXPECT_EQ(masterChanges, 1);
+  EXPECT_EQ(frmMain->Text2.Text.Get(), "170");
+  // The Duo's columns stand on the master's depth of its horizon.
+  EXPECT_FLOAT_EQ(frm2Main->BoreHole(1).ScaleTop, 170 - ViewSpan2 / 2.0f);
+  EXPECT_TRUE(platform.messages.empty()) << OnlyMessage();
+}
+
+TEST_F(DuoOnScreen, BelowTheMastersCoresButWithinTheDuosIsNoError) {
+  duoSet.CoreBottom(1) = 500;
+  Type(*frmMain, "350");
+  EXPECT_TRUE(platform.messages.empty()) << OnlyMessage();
+  EXPECT_EQ(frmMain->Text2.Text.Get(), "350");
+
+  duoSet.CoreBottom(1) = 240;
+  Type(*frmMain, "250");
+  Type(*frmMain, "360");
+  EXPECT_EQ(OnlyMessage(), "Error: Requested horizon is below core bottom.");
+  EXPECT_EQ(frmMain->Text2.Text.Get(), "250");
+}
+
+TEST_F(DuoOnScreen, AVarveImportOnTheMasterCopiesTheAgesAnew) {
+  platform.QueueFile(WriteTempFile("ages_20120101.csv", AgeModelText(kThreeControlPoints)));
+  frmMain->Command4_Click();
+  ASSERT_TRUE(AgeModelLoaded2);
+  AgeModel2(7, 1) = "-1";
+  platform.QueueFile(
+      WriteTempFile("varves_20130201.csv", VarveText({{"120", "10"}, {"125", "20"}})));
+  frmMain->Command5_Click();
+  EXPECT_TRUE(platform.messages.empty()) << OnlyMessage();
+  EXPECT_EQ(AgeModel2(7, 1), AgeModel(7, 1));
+}
+
+TEST_F(DuoOnScreen, ClosingTheDuoLeavesTheMasterAndReopeningStartsAnew) {
+  frm2Main.Unload();
+  EXPECT_FALSE(DuoOpen);
+  Type(*frmMain, "230");
+  EXPECT_EQ(masterChanges, 1);
+  EXPECT_EQ(frmMain->Text2.Text.Get(), "230");
+
+  frmMain->LaunchDuo();
+  EXPECT_TRUE(frm2Main.IsLoaded());
+  EXPECT_TRUE(frm2Main->Command1.Enabled);
+  EXPECT_FALSE(frm2Main->Command3.Enabled);
+  EXPECT_FALSE(AgeModelLoaded2);
+  EXPECT_FALSE(DuoOpen);
+}
+
+TEST_F(FreshProgram, DuoOpensOnlyOnceTheMastersEventListStands) {
+  ImportModel(TwoSectionModel());
+  frmMain->LaunchDuo();
+  EXPECT_FALSE(frm2Main.IsLoaded());
+  ImportEventList(kNoLayer);
+  frmMain->mnuOLDuo.Click();
+  EXPECT_TRUE(frm2Main.IsLoaded());
+  // Overlapping the master by 60 twips, or against the screen's right edge.
+  const float besideMaster = frmMain->Left + frmMain->Width - 60;
+  EXPECT_TRUE(frm2Main->Left == besideMaster ||
+              frm2Main->Left == Screen.Width() - frm2Main->Width - 60);
+  EXPECT_EQ(frm2Main->Height, frmMain->Height);
 }
 
 }  // namespace

@@ -19,7 +19,15 @@ namespace ostraline {
 namespace {
 
 constexpr long kRed = 255;
-using Smoother = void (*)(int, long, long);
+using Overlay = void (*)(const ProxyRecords&, PictureBox&, int, long, long);
+// One window's overlay on the master's panel p.
+struct Smoother {
+  Overlay draw;
+  Smoother(Overlay d) : draw(d) {}  // NOLINT: the lists name the overlays bare
+  void operator()(int p, long first, long hidden = std::numeric_limits<long>::max()) const {
+    draw(masterProxies, frmMain->Picture1(p), p, first, hidden);
+  }
+};
 constexpr long kNothingHidden = std::numeric_limits<long>::max();
 
 class Smoothing : public FreshProgram {
@@ -106,17 +114,17 @@ TEST_F(Smoothing, GuardsAndTableEndsDecideWhetherAnOverlayIsDrawn) {
 
   // The even window is centred half a row above i; the last row enters no mean.
   LoadLinear(2, 209);
-  SmoothProxy208(2, 0);
+  Smoother{SmoothProxy208}(2, 0);
   EXPECT_EQ(Ends(2), (std::vector<std::array<float, 4>>{{104.5f, 209, 105.5f, 211}}));
   LoadLinear(2, 30);
-  SmoothProxy3(2, 0);
+  Smoother{SmoothProxy3}(2, 0);
   EXPECT_EQ(Segments(2).front().ux1, 2.0f);
   EXPECT_EQ(Segments(2).back().ux2, 28.0f);
 }
 
 TEST_F(Smoothing, StartsAtTheFirstRowOfTheView) {
   LoadLinear(0, 500);
-  SmoothProxy11(0, 400);
+  Smoother{SmoothProxy11}(0, 400);
   EXPECT_EQ(Segments(0).size(), 94u);
   EXPECT_EQ(Segments(0).front().ux1, 400.0f);
   EXPECT_EQ(Segments(0).front().uy1, 800.0f);
@@ -124,11 +132,11 @@ TEST_F(Smoothing, StartsAtTheFirstRowOfTheView) {
   // The first mean reaches back to row 395, not further.
   ProxyPlot(0, 394) = 9999;
   frmMain->Picture1(0).Cls();
-  SmoothProxy11(0, 400);
+  Smoother{SmoothProxy11}(0, 400);
   EXPECT_EQ(*RowsDrawn(0).begin(), 400);
   ProxyPlot(0, 395) = 9999;
   frmMain->Picture1(0).Cls();
-  SmoothProxy11(0, 400);
+  Smoother{SmoothProxy11}(0, 400);
   EXPECT_EQ(*RowsDrawn(0).begin(), 401);
 
   // Below the lowest first row, the overlay starts at its first full window.
@@ -150,26 +158,26 @@ TEST_F(Smoothing, BadRowsTakeOutTheSegmentsThatTestThem) {
     return rows;
   };
   LoadLinear(4, 40);
-  SmoothProxy5(4, 0);
+  Smoother{SmoothProxy5}(4, 0);
   EXPECT_EQ(RowsDrawn(4), allBut(0, 0));
 
   // A row without a value: the window and one segment more.
   LoadLinear(4, 40);
   ProxyPlot(0, 20) = -9999;
-  SmoothProxy5(4, 0);
+  Smoother{SmoothProxy5}(4, 0);
   EXPECT_EQ(RowsDrawn(4), allBut(17, 22));
 
   // Equal depths are no reversal.
   LoadLinear(4, 40);
   ProxyDepth(4)(1, 20) = ProxyDepth(4)(1, 19);
-  SmoothProxy5(4, 0);
+  Smoother{SmoothProxy5}(4, 0);
   EXPECT_EQ(RowsDrawn(4), allBut(0, 0));
 
   // A depth of 9999 is no gap by itself, only by the fall to the next row,
   // so the segment before the fall takes it into its mean.
   LoadLinear(4, 40);
   ProxyDepth(4)(1, 20) = 9999;
-  SmoothProxy5(4, 0);
+  Smoother{SmoothProxy5}(4, 0);
   EXPECT_EQ(RowsDrawn(4), allBut(18, 22));
   const DrawOp before = Segments(4)[17 - 3];
   EXPECT_EQ(before.uy2, (32.0f + 34 + 36 + 38 + 9999) / 5);
@@ -184,7 +192,7 @@ TEST_F(Smoothing, MeansAreSinglePrecisionInTheirOrderOfAdditions) {
 
   // Window 11 at i = 11: rows 7 to 16 once, then row 6 for the start and
   // row 17 for the end. Here the plain order from row 6 gives other bits.
-  SmoothProxy11(1, 0);
+  Smoother{SmoothProxy11}(1, 0);
   Single sharedX = 0;
   Single sharedY = 0;
   for (long k = 7; k <= 16; ++k) {
@@ -207,7 +215,7 @@ TEST_F(Smoothing, MeansAreSinglePrecisionInTheirOrderOfAdditions) {
 
   // Window 3 at i = 6 adds from the top row down.
   frmMain->Picture1(1).Cls();
-  SmoothProxy3(1, 0);
+  Smoother{SmoothProxy3}(1, 0);
   const Single downwards = value(5) + value(6) + value(7);
   ASSERT_NE(downwards / 3, (value(7) + value(6) + value(5)) / 3);
   EXPECT_EQ(Segments(1).at(6 - 2).ux1, downwards / 3);
