@@ -13,7 +13,8 @@ if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
 fi
 
 echo "There is no display here, so Ostraline shows its work in files instead."
-xvfb-run -a "$program" --demo --screenshot ostraline-screenshot.png "$@"
+# A wide screen, so that the Duo (--duo) finds room beside the main window.
+xvfb-run -a -s "-screen 0 2560x1200x24" "$program" --demo --screenshot ostraline-screenshot.png "$@"
 build-release/cli/ostraline-convert \
   --model samples/correlation_model_20250314.csv --events samples/event_layers_20250320.csv \
   --ages samples/age_depth_model_20250402.csv --varves samples/varve_counts_20250325.csv \

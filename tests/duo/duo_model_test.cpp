@@ -16,6 +16,7 @@
 #include "forms/frm_conversion.h"
 #include "forms/frm_main.h"
 #include "forms/platform.h"
+#include "proxies/proxy_records.h"
 #include "runtime/number_text.h"
 #include "support/age_files.h"
 #include "support/fresh_program.h"
@@ -359,6 +360,22 @@ TEST_F(DuoOnScreen, AVarveImportOnTheMasterCopiesTheAgesAnew) {
   frmMain->Command5_Click();
   EXPECT_TRUE(platform.messages.empty()) << OnlyMessage();
   EXPECT_EQ(AgeModel2(7, 1), AgeModel(7, 1));
+}
+
+// A record by bore hole, section and PSP stands on the master's scale, on
+// which the Duo's panels are drawn; the master's panels keep theirs.
+TEST_F(DuoOnScreen, ProxyRecordOfTheDuoIsPlacedOnTheMastersScale) {
+  std::string record = "Hole,Section,PSP,Ti\r\nE,1,10,5\r\n";
+  for (int psp = 20; psp <= 100; psp += 10) record += "E,01," + std::to_string(psp) + ",6\r\n";
+  platform.QueueFile(WriteTempFile("duo_xrf.csv", record));
+  frm2Main->Command6_Click(0);
+  EXPECT_TRUE(platform.messages.empty()) << OnlyMessage();
+  ASSERT_TRUE(duoProxies.ProxyLoaded(0));
+  EXPECT_FALSE(masterProxies.ProxyLoaded(0));
+  EXPECT_EQ(duoProxies.ProxyDepth(0)(1, 1), 110);  // Duo 100
+  EXPECT_EQ(duoProxies.ProxyDepth(0)(1, 6), 170);  // Duo 150
+  EXPECT_TRUE(frm2Main->Enabled);
+  EXPECT_FALSE(frm2Main->Picture1(0).BaseOps().empty());
 }
 
 TEST_F(DuoOnScreen, ClosingTheDuoLeavesTheMasterAndReopeningStartsAnew) {
