@@ -38,6 +38,12 @@ void RefreshMainForms() {
   if (DuoOpen) frm2Main->Refresh();
 }
 
+// The four windows are shared: both main forms bring them to the front.
+void EnablePhotoMenus() {
+  frmMain->mnuPhoto.Enabled = true;
+  if (frm2Main.IsLoaded()) frm2Main->mnuPhoto.Enabled = true;
+}
+
 // Picture1 takes the picture at its natural size; both images show it.
 void LoadPicture(FrmPhoto& form, const std::string& path) {
   const std::shared_ptr<const RasterImage> raster = CurrentPlatform().LoadPicture(path);
@@ -110,6 +116,7 @@ void PlaceBeside(FrmPhoto& form, const Form& o) {
 
 void SetCommand7Enabled(bool enabled) {
   if (frmMain.IsLoaded()) frmMain->Command7.Enabled = enabled;
+  if (frm2Main.IsLoaded()) frm2Main->Command7.Enabled = enabled;
 }
 
 }  // namespace
@@ -154,7 +161,7 @@ void OpenPhotoBeside(Form& owner, CommonDialog& dialog) {
     // The first showing sizes the image to the window.
     form.Form_Resize();
     PhotoOpen(k) = true;
-    frmMain->mnuPhoto.Enabled = true;
+    EnablePhotoMenus();
     if (PhotoOpen(1) && PhotoOpen(2) && PhotoOpen(3) && PhotoOpen(4)) SetCommand7Enabled(false);
   } catch (const RuntimeFailure&) {
   }
@@ -183,7 +190,7 @@ void FrmPhoto::Command1_Click() {
     PhotoPortrait(K()) = Picture1.Height.Get() >= Picture1.Width.Get();
     PlaceCommand1(*this);
     PhotoOpen(K()) = true;
-    frmMain->mnuPhoto.Enabled = true;
+    EnablePhotoMenus();
   } catch (const RuntimeFailure&) {
   }
 }
