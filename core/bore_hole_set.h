@@ -7,6 +7,7 @@
 #include <array>
 #include <string>
 
+#include "core/derived_tables.h"
 #include "forms/hole_names.h"
 #include "runtime/checked_int.h"
 #include "runtime/table.h"
@@ -69,6 +70,9 @@ struct BoreHoleSet {
   Single VarveTopEFD = 0;
   Single VarveBottomEFD = 0;
   std::string VarveVersion;
+
+  // Numbers parsed once from the text tables above.
+  DerivedTables Derived;
 
   // The main form's drive guards and the texts its three boxes go back to.
   Integer DrivenBy = 9999;

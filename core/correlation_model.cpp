@@ -1,6 +1,8 @@
 // The correlation model's import: the file, the model depths, and the form
 // opened for work at its first target.
 #include "core/correlation_model.h"
+
+#include <utility>
 #include "core/import_pattern.h"
 
 #include "core/depth_conversions.h"
@@ -162,11 +164,15 @@ void SweepSections(BoreHoleSet& set, MainForm& form) {
 }
 
 void SweepModelDepths(BoreHoleSet& set, MainForm& form) {
+  // Read without writing, so that the file's cells keep the revision that the
+  // lookups have read them at.
+  const auto& model = std::as_const(set.ModelCell);
+  const auto& ties = std::as_const(set.TieCell);
   for (int hole = 1; hole <= 4; ++hole) {
     set.SectionCount(hole) = 0;
     for (long r = 1; r <= set.LastRow; ++r) {
-      if (IsSectionTop(set.ModelCell(0, hole, 0, r))) ++set.SectionCount(hole);
-      const std::string psp = set.ModelCell(0, hole, 1, r);
+      if (IsSectionTop(model(0, hole, 0, r))) ++set.SectionCount(hole);
+      const std::string psp = model(0, hole, 1, r);
       if (Val(Right(psp, 4)) != 9999 && psp != "---") {
         set.ModelCell(1, hole, 2, r) =
             CompositeFromTrinity(set, hole, set.SectionCount(hole), CSng(Val(psp))).ToText();
@@ -176,9 +182,8 @@ void SweepModelDepths(BoreHoleSet& set, MainForm& form) {
       }
       // The tie itself wins over the computed value; a PSP that is no number fails here.
       const bool pspGiven = CDbl(psp) != 9999;
-      const bool cdGiven = CDbl(set.TieCell(1, r)) != 9999;
-      if (pspGiven && cdGiven && !set.TieCell(1, r).empty())
-        set.ModelCell(1, hole, 2, r) = set.TieCell(1, r);
+      const bool cdGiven = CDbl(ties(1, r)) != 9999;
+      if (pspGiven && cdGiven && !ties(1, r).empty()) set.ModelCell(1, hole, 2, r) = ties(1, r);
       form.ProgressBar1.Value = form.ProgressBar1.Value + 1;
     }
   }

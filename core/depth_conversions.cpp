@@ -47,7 +47,81 @@ long FillDividerLists(BoreHoleSet& set, int hole) {
 
 }  // namespace
 
-Variant CompositeFromTrinity(BoreHoleSet& set, int hole, int section, Single psp) {
+namespace {
+
+// The cells as they stand, parsed at each read.
+struct PlainCells {
+  const BoreHoleSet& set;
+  int hole;
+  double Psp(long row) const { return CDbl(set.ModelCell(0, hole, 1, row)); }
+  double Cd(long row) const { return CDbl(set.TieCell(1, row)); }
+  bool Bottom(long row) const { return IsSectionBottom(set.ModelCell(0, hole, 0, row)); }
+};
+
+// A cell that is no number sends the lookup back to the plain cells, which
+// fail where they did.
+struct NotANumber {};
+
+// The same cells parsed once per revision of the model.
+struct ParsedCells {
+  const TrinityCells& cells;
+  int hole;
+  double Psp(long row) const { return Read(cells.psp[hole], cells.pspKnown[hole], row); }
+  double Cd(long row) const { return Read(cells.cd, cells.cdKnown, row); }
+  bool Bottom(long row) const {
+    if (row < 0 || row > cells.lastRow) throw NotANumber{};
+    return cells.bottom[hole][static_cast<std::size_t>(row)] != 0;
+  }
+  double Read(const std::vector<double>& values, const std::vector<char>& known, long row) const {
+    if (row < 0 || row > cells.lastRow || !known[static_cast<std::size_t>(row)]) throw NotANumber{};
+    return values[static_cast<std::size_t>(row)];
+  }
+};
+
+void Parse(const std::string& cell, double& value, char& known) {
+  try {
+    value = CDbl(cell);
+    known = 1;
+  } catch (const RuntimeFailure&) {
+    known = 0;
+  }
+}
+
+// The model's cells of a bore hole, read anew when the model has changed.
+const TrinityCells* Cells(BoreHoleSet& set, int hole) {
+  const Table<std::string, 4>& model = set.ModelCell;
+  const Table<std::string, 2>& ties = set.TieCell;
+  if (hole < 1 || hole > 4 || !model.Allocated() || !ties.Allocated()) return nullptr;
+  const long last = set.LastRow;
+  if (last < 0 || last > model.UBound(4) || last > ties.UBound(2)) return nullptr;
+  TrinityCells& cells = set.Derived.trinity;
+  // The lookup reads Scale 0 of the model and the composite depths of the ties.
+  if (!cells.built || cells.modelRevision != model.Revision(0) ||
+      cells.tieRevision != ties.Revision(1) || cells.lastRow != last) {
+    cells = TrinityCells{};
+    const auto rows = static_cast<std::size_t>(last + 1);
+    cells.cd.resize(rows);
+    cells.cdKnown.resize(rows);
+    for (long r = 0; r <= last; ++r) Parse(ties(1, r), cells.cd[r], cells.cdKnown[r]);
+    for (int h = 1; h <= 4; ++h) {
+      cells.psp[h].resize(rows);
+      cells.pspKnown[h].resize(rows);
+      cells.bottom[h].resize(rows);
+      for (long r = 0; r <= last; ++r) {
+        Parse(model(0, h, 1, r), cells.psp[h][r], cells.pspKnown[h][r]);
+        cells.bottom[h][r] = IsSectionBottom(model(0, h, 0, r)) ? 1 : 0;
+      }
+    }
+    cells.modelRevision = model.Revision(0);
+    cells.tieRevision = ties.Revision(1);
+    cells.lastRow = last;
+    cells.built = true;
+  }
+  return &cells;
+}
+
+template <class Cells>
+Variant Composite(const BoreHoleSet& set, int hole, int section, Single psp, const Cells& cells) {
   try {
     if (hole == 0 || psp == 9999 || psp == -9999 || section == 9999 || section == -9999 ||
         section > set.SectionCount(hole) || set.LastRow < 1) {
@@ -59,50 +133,64 @@ Variant CompositeFromTrinity(BoreHoleSet& set, int hole, int section, Single psp
     int count = 0;
     TopRowFound = set.SectionTopRow(hole, section);
     // The top row counts by its composite depth alone.
-    if (Cd(set, TopRowFound) != 9999) {
+    if (cells.Cd(TopRowFound) != 9999) {
       TieRowLast = TopRowFound;
       count = 1;
     }
     bool left = false;
     for (long r = TopRowFound + 1; r <= set.LastRow; ++r) {
-      const double rowPsp = Psp(set, hole, r);
-      const double rowCd = Cd(set, r);
+      const double rowPsp = cells.Psp(r);
+      const double rowCd = cells.Cd(r);
       // A row with PSP exactly 0 below the top is never a tie.
       if (rowPsp != 9999 && rowCd != 9999 && rowPsp != 0) {
         TieRowPrevious = TieRowLast;
         TieRowLast = static_cast<int>(r);
         ++count;
       }
-      if (CSng(Psp(set, hole, TieRowLast)) >= psp && rowCd != 9999 && TieRowPrevious != 0) {
+      if (CSng(cells.Psp(TieRowLast)) >= psp && rowCd != 9999 && TieRowPrevious != 0) {
         left = true;
         break;
       }
-      if (IsSectionBottom(set.ModelCell(0, hole, 0, r))) {
+      if (cells.Bottom(r)) {
         left = true;
         break;
       }
     }
     if (!left || count == 0) return Variant();
     const double p = psp;
-    if (count == 1) return Cd(set, TieRowLast) + (p - Psp(set, hole, TieRowLast));
+    if (count == 1) return cells.Cd(TieRowLast) + (p - cells.Psp(TieRowLast));
     const int a = TieRowPrevious;
     const int b = TieRowLast;
     auto interpolation = [&] {
-      return Cd(set, a) + (p - Psp(set, hole, a)) * Divide(Cd(set, b) - Cd(set, a),
-                                                           Psp(set, hole, b) - Psp(set, hole, a));
+      return cells.Cd(a) +
+             (p - cells.Psp(a)) * Divide(cells.Cd(b) - cells.Cd(a), cells.Psp(b) - cells.Psp(a));
     };
     // The extrapolation method is the master's, for both sets.
     MainForm& form = *frmMain;
     if (form.Option4(0).Value) return interpolation();
     if (form.Option4(1).Value) {
-      if (CSng(Psp(set, hole, a)) > psp) return Cd(set, a) + (p - Psp(set, hole, a));
-      if (CSng(Psp(set, hole, b)) >= psp) return interpolation();
-      return Cd(set, b) + (p - Psp(set, hole, b));
+      if (CSng(cells.Psp(a)) > psp) return cells.Cd(a) + (p - cells.Psp(a));
+      if (CSng(cells.Psp(b)) >= psp) return interpolation();
+      return cells.Cd(b) + (p - cells.Psp(b));
     }
     return Variant();
   } catch (const RuntimeFailure&) {
     return Integer(9999);
   }
+}
+
+}  // namespace
+
+Variant CompositeFromTrinity(BoreHoleSet& set, int hole, int section, Single psp) {
+  if (FastLookups) {
+    if (const TrinityCells* cells = Cells(set, hole)) {
+      try {
+        return Composite(set, hole, section, psp, ParsedCells{*cells, hole});
+      } catch (const NotANumber&) {
+      }
+    }
+  }
+  return Composite(set, hole, section, psp, PlainCells{set, hole});
 }
 
 void GetPSP(BoreHoleSet& set, int hole, Single target) {

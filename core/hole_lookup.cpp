@@ -1,5 +1,9 @@
 #include "core/hole_lookup.h"
 
+#include <algorithm>
+#include <string>
+#include <utility>
+
 #include "core/project_state.h"
 #include "runtime/number_text.h"
 
@@ -28,13 +32,55 @@ Variant AlphaNum(BoreHoleSet& set, const Variant& letter) {
   return 1;
 }
 
+namespace {
+
+std::string LastThree(const std::string& name) {
+  return Right("000" + name, 3);
+}
+
+// The sections of each bore hole by name, read anew when the lists change.
+const SectionNames* Names(BoreHoleSet& set, int hole) {
+  const Table<std::string, 2>& names = set.SectionName;
+  if (hole < 1 || hole > 4 || !names.Allocated()) return nullptr;
+  const long count = std::as_const(set.SectionCount)(hole);
+  if (count > names.UBound(2)) return nullptr;
+  SectionNames& index = set.Derived.sections;
+  if (!index.holeBuilt[hole] || index.revisions[hole] != names.Revision(hole) ||
+      index.counts[hole] != count) {
+    index.exact[hole].clear();
+    index.lastThree[hole].clear();
+    for (int i = 1; i <= count; ++i) {
+      const std::string& candidate = names(hole, i);
+      index.exact[hole].emplace(candidate, i);
+      index.lastThree[hole].emplace(LastThree(candidate), i);
+    }
+    index.counts[hole] = count;
+    index.revisions[hole] = names.Revision(hole);
+    index.holeBuilt[hole] = true;
+  }
+  return &index;
+}
+
+}  // namespace
+
 Integer SectionOrdinalByName(BoreHoleSet& set, int hole, const std::string& name) {
   if (hole == 9999 || hole == -9999 || name == "9999" || name == "-9999") return 9999;
+  const std::string wanted = LastThree(name);
+  if (FastLookups) {
+    if (const SectionNames* index = Names(set, hole)) {
+      // The scan takes the first section that matches either way.
+      int found = 9999;
+      const auto exact = index->exact[hole].find(name);
+      if (exact != index->exact[hole].end()) found = exact->second;
+      const auto tail = index->lastThree[hole].find(wanted);
+      if (tail != index->lastThree[hole].end()) found = std::min(found, tail->second);
+      return found;
+    }
+  }
   try {
-    const std::string wanted = Right("000" + name, 3);
     for (int i = 1; i <= set.SectionCount(hole); ++i) {
       const std::string& candidate = set.SectionName(hole, i);
-      if (name == candidate || Right("000" + candidate, 3) == wanted) return i;
+      if (name == candidate || LastThree(candidate) == wanted) return i;
     }
   } catch (const RuntimeFailure&) {
   }

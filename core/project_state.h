@@ -16,6 +16,11 @@ namespace ostraline {
 struct CoreState {
   CoreState();
 
+  // The lookups read numbers parsed once and halve where a column is known to
+  // rise; off, every lookup scans and parses the cells as they stand (the
+  // tests compare the two).
+  bool FastLookups = true;
+
   Integer DepthAxis = 1;
   Integer DepthPrecision = 2;
   Integer AgePrecision = 0;
@@ -59,6 +64,7 @@ inline auto& SectionBottomRow = masterSet.SectionBottomRow;
 inline auto& CoreBottom = masterSet.CoreBottom;
 inline auto& DeepestBottom = masterSet.DeepestBottom;
 inline auto& ModelVersion = masterSet.ModelVersion;
+inline auto& FastLookups = coreState.FastLookups;
 inline auto& DepthAxis = coreState.DepthAxis;
 inline auto& DepthPrecision = coreState.DepthPrecision;
 inline auto& AgePrecision = coreState.AgePrecision;

@@ -2,7 +2,10 @@
 // points, and the age box with its unit and errors.
 #include "events/age_lookup.h"
 
+#include <algorithm>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "core/core_bottom.h"
 #include "core/entry_focus.h"
@@ -27,19 +30,91 @@ constexpr int kErrorMinus = 8;
 constexpr int kUnit = 9;
 constexpr int kEfd = 11;
 
+// The numbers of one column, read anew when the table has changed since.
+const NumberColumn& Numbers(BoreHoleSet& set, int column) {
+  NumberColumn& numbers = set.Derived.ageColumns[column];
+  const Table<std::string, 2>& table = set.AgeModel;
+  if (numbers.built && numbers.revision == table.Revision(column)) return numbers;
+  const long last = table.Allocated() ? table.UBound(2) : -1;
+  const auto rows = static_cast<std::size_t>(last + 1);
+  numbers.singles.assign(rows, 0);
+  numbers.doubles.assign(rows, 0);
+  numbers.isSingle.assign(rows, 0);
+  numbers.isDouble.assign(rows, 0);
+  for (long row = 0; row <= last; ++row) {
+    const std::string& cell = table(column, row);
+    const auto k = static_cast<std::size_t>(row);
+    try {
+      numbers.singles[k] = CSng(cell);
+      numbers.isSingle[k] = 1;
+    } catch (const RuntimeFailure&) {
+    }
+    try {
+      numbers.doubles[k] = CDbl(cell);
+      numbers.isDouble[k] = 1;
+    } catch (const RuntimeFailure&) {
+    }
+  }
+  numbers.revision = table.Revision(column);
+  numbers.built = true;
+  numbers.risingFor = -1;
+  return numbers;
+}
+
 // Comparisons are made single with single, arithmetic in double; a cell that
-// is no number fails either way.
+// is no number fails either way, read from its text as it stands.
 Single CellSingle(BoreHoleSet& set, int column, long row) {
-  return CSng(set.AgeModel(column, row));
+  if (!FastLookups) return CSng(std::as_const(set.AgeModel)(column, row));
+  const NumberColumn& numbers = Numbers(set, column);
+  if (row >= 0 && row < static_cast<long>(numbers.isSingle.size()) && numbers.isSingle[row])
+    return numbers.singles[row];
+  return CSng(std::as_const(set.AgeModel)(column, row));
 }
 double CellDouble(BoreHoleSet& set, int column, long row) {
-  return CDbl(set.AgeModel(column, row));
+  if (!FastLookups) return CDbl(std::as_const(set.AgeModel)(column, row));
+  const NumberColumn& numbers = Numbers(set, column);
+  if (row >= 0 && row < static_cast<long>(numbers.isDouble.size()) && numbers.isDouble[row])
+    return numbers.doubles[row];
+  return CDbl(std::as_const(set.AgeModel)(column, row));
+}
+
+// Whether rows 1..count of the column are all numbers rising strictly: then
+// at most one pair of rows brackets a value, and halving finds it.
+bool RisesStrictly(BoreHoleSet& set, int column) {
+  Numbers(set, column);
+  NumberColumn& numbers = set.Derived.ageColumns[column];
+  const long count = set.AgeModelCount;
+  if (numbers.risingFor == count) return numbers.rising;
+  numbers.risingFor = count;
+  numbers.rising = count >= 2 && count < static_cast<long>(numbers.isSingle.size());
+  for (long i = 1; i <= count && numbers.rising; ++i) {
+    numbers.rising = numbers.isSingle[i] && (i == 1 || numbers.singles[i - 1] < numbers.singles[i]);
+  }
+  return numbers.rising;
 }
 
 // The pair of rows around x in one column. The scan does not stop at a hit,
 // so in a table that is not monotonic the last hit counts; beyond either end
 // the end pair holds, and that is all the extrapolation of age there is.
 void BracketSearch(BoreHoleSet& set, int column, Single x, Integer& lower, Integer& upper) {
+  if (FastLookups && RisesStrictly(set, column)) {
+    const std::vector<Single>& values = Numbers(set, column).singles;
+    const long count = set.AgeModelCount;
+    // The last row at or above x; the one below it lies below x.
+    const auto first = values.begin() + 1;
+    const long atOrAbove = std::upper_bound(first, first + count, x) - first;
+    if (atOrAbove == 0) {
+      lower = 1;
+      upper = 2;
+    } else if (atOrAbove == count) {
+      lower = count - 1;
+      upper = count;
+    } else {
+      lower = atOrAbove;
+      upper = atOrAbove + 1;
+    }
+    return;
+  }
   for (long i = 1; i <= set.AgeModelCount - 1; ++i) {
     // Both cells are read whatever the first test gives.
     const bool atOrAbove = CellSingle(set, column, i) <= x;
@@ -114,8 +189,9 @@ Variant Sentinel(BoreHoleSet& set, Single depth) {
 // The varve path of the way back, for the pair lower, upper of the ages.
 Variant EfdFromAgeByVarves(BoreHoleSet& set, Single age, long lower, long upper) {
   // The ages of the two rows as the forward lookup gives them.
-  const Single ageLower = GetAgeFromEFD(set, CSng(Val(set.AgeModel(kEfd, lower)))).ToSingle();
-  const Single ageUpper = GetAgeFromEFD(set, CSng(Val(set.AgeModel(kEfd, upper)))).ToSingle();
+  const auto& model = std::as_const(set.AgeModel);
+  const Single ageLower = GetAgeFromEFD(set, CSng(Val(model(kEfd, lower)))).ToSingle();
+  const Single ageUpper = GetAgeFromEFD(set, CSng(Val(model(kEfd, upper)))).ToSingle();
   const Single offset = VarveOffset(set, CellSingle(set, kDepth, lower),
                                     CellSingle(set, kDepth, upper), age - ageLower, ageUpper - age);
   // The depth cells take part in the sums as doubles: the composite depth is
@@ -132,9 +208,10 @@ Variant EfdFromAgeByVarves(BoreHoleSet& set, Single age, long lower, long upper)
 }
 
 void ShowUnit(BoreHoleSet& set, MainForm& form) {
-  const std::string& unit = set.AgeModel(kUnit, set.AgeRowLower);
+  const auto& model = std::as_const(set.AgeModel);
+  const std::string& unit = model(kUnit, set.AgeRowLower);
   // Two control points in different units: no single unit can be named.
-  if (unit != set.AgeModel(kUnit, set.AgeRowUpper)) {
+  if (unit != model(kUnit, set.AgeRowUpper)) {
     form.Label7.Caption = "Age (Hybrid unit)";
   } else {
     form.Label7.Caption = "Age (" + unit + ")";
@@ -190,7 +267,7 @@ Variant GetAgeFromCD(BoreHoleSet& set, Single cd) {
       if (sums.below == sums.above) {
         // Unlike the lookup from an EFD, which gives the upper row here: the
         // lower row's age as its cell has it.
-        age = set.AgeModel(kAge, set.AgeRowLower);
+        age = std::as_const(set.AgeModel)(kAge, set.AgeRowLower);
         set.AgeErrorPlus = CellSingle(set, kErrorPlus, set.AgeRowLower);
         set.AgeErrorMinus = CellSingle(set, kErrorMinus, set.AgeRowLower);
       } else {

@@ -1,6 +1,7 @@
 // The second pass of "Convert and Save": the converted file's columns, in
 // the layout of the scale given (FromKind) and the scales ticked (ToMask).
 #include <string>
+#include <utility>
 
 #include "core/project_state.h"
 #include "duo/depth_map.h"
@@ -43,8 +44,9 @@ AgeCells AgeOfEfd(BoreHoleSet& set, const Variant& efdCell) {
     // No rows were looked up: the unit column carries the missing EFD's cell
     // as it stands, text or number.
     cells.unit = efdCell;
-  } else if (set.AgeModel(9, set.AgeRowLower) == set.AgeModel(9, set.AgeRowUpper)) {
-    cells.unit = set.AgeModel(9, set.AgeRowUpper);
+  } else if (const auto& model = std::as_const(set.AgeModel);
+             model(9, set.AgeRowLower) == model(9, set.AgeRowUpper)) {
+    cells.unit = model(9, set.AgeRowUpper);
   } else {
     // The two control points give their ages in different units.
     cells.unit = "Hybrid unit";

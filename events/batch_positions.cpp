@@ -1,6 +1,7 @@
 // Rows given as a position (label, bore hole, section, PSP) to composite depth
 // and EFD, each row on its own.
 #include <string>
+#include <utility>
 
 #include "core/depth_conversions.h"
 #include "core/hole_lookup.h"
@@ -38,8 +39,9 @@ Variant CompositeInSection(BoreHoleSet& set, int hole, const std::string& sectio
   if (hole < 1 || hole > 4) return Integer(9999);
   const int section = SectionOrdinalByName(set, hole, sectionName);
   if (section == 9999) return Integer(9999);
-  const double top = Val(set.ModelCell(0, hole, 1, set.SectionTopRow(hole, section)));
-  const double bottom = Val(set.ModelCell(0, hole, 1, set.SectionBottomRow(hole, section)));
+  const auto& model = std::as_const(set.ModelCell);
+  const double top = Val(model(0, hole, 1, set.SectionTopRow(hole, section)));
+  const double bottom = Val(model(0, hole, 1, set.SectionBottomRow(hole, section)));
   if (psp < top || psp > bottom) return Integer(9999);
   return CompositeFromTrinity(set, hole, section, CSng(psp));
 }

@@ -1,5 +1,8 @@
 #include "events/event_free_depth.h"
 
+#include <algorithm>
+#include <optional>
+
 #include "core/project_state.h"
 #include "events/event_state.h"
 #include "runtime/failure.h"
@@ -9,10 +12,106 @@ namespace ostraline {
 
 namespace {
 
+// The running sums of the merged layers, summed anew when the layers change.
+const LayerSums* Sums(BoreHoleSet& set) {
+  const Table<Single, 2>& tops = set.EventTop;
+  const Table<Single, 2>& bottoms = set.EventBottom;
+  const long count = set.EventCount;
+  const long merged = set.MergedEventCount;
+  if (!FastLookups || !tops.Allocated() || !bottoms.Allocated() || count < 0 || merged < 0 ||
+      tops.UBound(2) < std::max(count, merged) || bottoms.UBound(2) < std::max(count, merged)) {
+    return nullptr;
+  }
+  LayerSums& sums = set.Derived.layers;
+  if (sums.built && sums.topRevision == tops.Revision(1) &&
+      sums.bottomRevision == bottoms.Revision(1) && sums.count == count && sums.merged == merged) {
+    return &sums;
+  }
+  sums = LayerSums{};
+  const auto rows = static_cast<std::size_t>(std::max(count, merged) + 1);
+  sums.tops.resize(rows);
+  sums.bottoms.resize(rows);
+  for (long i = 1; i < static_cast<long>(rows); ++i) {
+    sums.tops[i] = tops(1, i);
+    sums.bottoms[i] = bottoms(1, i);
+  }
+  sums.thickness.assign(static_cast<std::size_t>(merged + 1), 0);
+  sums.bottomsRise = true;
+  for (long i = 1; i <= merged; ++i) {
+    sums.thickness[i] = sums.thickness[i - 1] + (sums.bottoms[i] - sums.tops[i]);
+    sums.bottomsRise = sums.bottomsRise && sums.bottoms[i] == sums.bottoms[i] &&
+                       (i == 1 || sums.bottoms[i - 1] <= sums.bottoms[i]);
+  }
+  sums.freeAbove.assign(static_cast<std::size_t>(count + 1), 0);
+  sums.thicknessBefore.assign(static_cast<std::size_t>(count + 1), 0);
+  sums.freeRises = true;
+  for (long i = 1; i <= count; ++i) {
+    const Single bottomBefore = i == 1 ? 0.0f : sums.bottoms[i - 1];
+    const Single topBefore = i == 1 ? 0.0f : sums.tops[i - 1];
+    sums.freeAbove[i] = sums.freeAbove[i - 1] + (sums.tops[i] - bottomBefore);
+    sums.thicknessBefore[i] = sums.thicknessBefore[i - 1] + (bottomBefore - topBefore);
+    sums.freeRises = sums.freeRises && (i == 1 || static_cast<Single>(sums.freeAbove[i - 1]) <=
+                                                      static_cast<Single>(sums.freeAbove[i]));
+  }
+  sums.topRevision = tops.Revision(1);
+  sums.bottomRevision = bottoms.Revision(1);
+  sums.count = count;
+  sums.merged = merged;
+  sums.built = true;
+  return &sums;
+}
+
+// The thickness of the layers above cd, as the walk below sums it, when the
+// merged layers' bottoms rise so that a search finds where the walk stops.
+std::optional<Single> ThicknessAbove(BoreHoleSet& set, Single cd) {
+  const LayerSums* sums = Sums(set);
+  if (sums == nullptr || !sums->bottomsRise) return std::nullopt;
+  const long merged = sums->merged;
+  const auto first = sums->bottoms.begin() + 1;
+  const long j = std::lower_bound(first, first + merged, cd) - sums->bottoms.begin();
+  if (j > merged) return sums->thickness[merged];
+  Single thickness = sums->thickness[j - 1];
+  if (sums->tops[j] < cd) thickness = thickness + (cd - sums->tops[j]);
+  return thickness;
+}
+
+// The thickness of the layers above an EFD, as the walk below sums it.
+std::optional<double> ThicknessAboveEfd(BoreHoleSet& set, Single efd) {
+  const LayerSums* sums = Sums(set);
+  if (sums == nullptr) return std::nullopt;
+  const long count = sums->count;
+  const auto reaches = [&](long i) { return static_cast<Single>(sums->freeAbove[i]) >= efd; };
+  long stop = count;
+  if (sums->freeRises) {
+    long low = 1;
+    long high = count + 1;
+    while (low < high) {
+      const long middle = low + (high - low) / 2;
+      if (reaches(middle)) {
+        high = middle;
+      } else {
+        low = middle + 1;
+      }
+    }
+    if (low <= count) stop = low;
+  } else {
+    for (long i = 1; i <= count; ++i) {
+      if (reaches(i)) {
+        stop = i;
+        break;
+      }
+    }
+  }
+  return sums->thicknessBefore[stop];
+}
+
 Variant CDToEFDOfLayers(BoreHoleSet& set, Single cd) {
   if (set.EventCount == 0) return Round(cd, DepthPrecision);
-  set.EventTop(1, 0) = -9999;
-  set.EventBottom(1, 0) = -9999;
+  set.EventTop.SetUntracked(-9999, 1, 0);
+  set.EventBottom.SetUntracked(-9999, 1, 0);
+  if (const auto thickness = ThicknessAbove(set, cd)) {
+    return Round(static_cast<double>(cd) - static_cast<double>(*thickness), DepthPrecision);
+  }
   // The running thickness is held in single precision after each addition.
   Single thickness = 0;
   for (long i = 0;; ++i) {
@@ -44,9 +143,12 @@ Variant CDToEFD(BoreHoleSet& set, Single cd) {
 Variant EFDToCD(BoreHoleSet& set, Single efd) {
   if (set.EventCount == 0) return Round(efd, DepthPrecision);
   // This direction measures the first stretch of sediment from depth 0.
-  set.EventTop(1, 0) = 0;
-  set.EventBottom(1, 0) = 0;
+  set.EventTop.SetUntracked(0, 1, 0);
+  set.EventBottom.SetUntracked(0, 1, 0);
   if (efd == -9999 || efd == 9999) return efd;
+  if (const auto thickness = ThicknessAboveEfd(set, efd)) {
+    return Round(static_cast<double>(efd) + *thickness, DepthPrecision);
+  }
   double freeAbove = 0;
   double thickness = 0;
   // Runs to the rows read, not to the merged count, and takes in layer i - 1

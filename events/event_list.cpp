@@ -5,6 +5,7 @@
 
 #include <initializer_list>
 #include <utility>
+#include <vector>
 
 #include "core/depth_conversions.h"
 #include "core/hole_lookup.h"
@@ -83,7 +84,7 @@ Single EventDepth(BoreHoleSet& set, long row, int positionColumn) {
 // Selection sort on the composite top. Among equal tops the first row wins,
 // and a top at or above the starting minimum is never chosen, so the row of
 // the last choice stays in force for that step.
-void SortLayersByTop(BoreHoleSet& set, ProgressBar& progress) {
+void SelectionSort(BoreHoleSet& set, ProgressBar& progress) {
   long chosen = 0;
   for (long k = 1; k <= set.EventCount; ++k) {
     progress.Value = static_cast<float>(k);
@@ -100,10 +101,89 @@ void SortLayersByTop(BoreHoleSet& set, ProgressBar& progress) {
   }
 }
 
-// Layers that overlap become their union. The fused layer keeps its place to
-// meet its new neighbour, so a chain of overlaps collapses into one; the rows
-// freed at the end hold -9999. Layers that merely touch stay apart.
-void MergeOverlappingLayers(BoreHoleSet& set) {
+// The same choices, each found in a tree of the rows' smallest tops instead
+// of a scan: the leftmost of the smallest tops below the starting minimum.
+class SmallestTops {
+ public:
+  explicit SmallestTops(const std::vector<Single>& tops) : size_(1) {
+    while (size_ < tops.size()) size_ *= 2;
+    tree_.assign(2 * size_, kNone);
+    for (std::size_t i = 0; i < tops.size(); ++i) Set(i, tops[i]);
+  }
+  // A top that the scan would never choose is no candidate.
+  void Set(std::size_t i, Single top) {
+    std::size_t node = size_ + i;
+    tree_[node] = top < kStartingMinimum ? Entry{top, i} : kNone;
+    for (node /= 2; node >= 1; node /= 2)
+      tree_[node] = Better(tree_[2 * node], tree_[2 * node + 1]);
+  }
+  void Remove(std::size_t i) {
+    std::size_t node = size_ + i;
+    tree_[node] = kNone;
+    for (node /= 2; node >= 1; node /= 2)
+      tree_[node] = Better(tree_[2 * node], tree_[2 * node + 1]);
+  }
+  // The row of the leftmost smallest top left, if any.
+  bool Smallest(std::size_t& row) const {
+    if (tree_[1].row == kNoRow) return false;
+    row = tree_[1].row;
+    return true;
+  }
+
+ private:
+  static constexpr Single kStartingMinimum = 999999;
+  static constexpr std::size_t kNoRow = static_cast<std::size_t>(-1);
+  struct Entry {
+    Single top;
+    std::size_t row;
+  };
+  static constexpr Entry kNone{0, kNoRow};
+  static Entry Better(const Entry& a, const Entry& b) {
+    if (a.row == kNoRow) return b;
+    if (b.row == kNoRow) return a;
+    if (b.top < a.top) return b;
+    if (a.top < b.top) return a;
+    return a.row < b.row ? a : b;
+  }
+  std::size_t size_;
+  std::vector<Entry> tree_;
+};
+
+void TreeSort(BoreHoleSet& set, ProgressBar& progress) {
+  const long count = set.EventCount;
+  std::vector<Single> tops(static_cast<std::size_t>(count + 1));
+  for (long m = 1; m <= count; ++m) tops[m] = set.EventTop(1, m);
+  SmallestTops tree(tops);
+  tree.Remove(0);
+  long chosen = 0;
+  for (long k = 1; k <= count; ++k) {
+    progress.Value = static_cast<float>(k);
+    std::size_t row = 0;
+    if (tree.Smallest(row)) chosen = static_cast<long>(row);
+    std::swap(set.EventTop(1, k), set.EventTop(1, chosen));
+    std::swap(set.EventBottom(1, k), set.EventBottom(1, chosen));
+    set.EventOrder(k) = chosen;
+    // Row k leaves the scan; a row below it that was swapped with it takes
+    // its top. A choice left over from an earlier step may lie above.
+    std::swap(tops[k], tops[chosen]);
+    if (chosen > k) tree.Set(static_cast<std::size_t>(chosen), tops[chosen]);
+    tree.Remove(static_cast<std::size_t>(k));
+  }
+}
+
+void SortLayersByTop(BoreHoleSet& set, ProgressBar& progress) {
+  // The tree needs the rows it is built from; a list that fails on its rows
+  // fails in the scan as it did.
+  if (FastLookups && set.EventTop.Allocated() && set.EventTop.UBound(2) >= set.EventCount &&
+      set.EventBottom.Allocated() && set.EventBottom.UBound(2) >= set.EventCount &&
+      set.EventOrder.Allocated() && set.EventOrder.UBound() >= set.EventCount) {
+    TreeSort(set, progress);
+  } else {
+    SelectionSort(set, progress);
+  }
+}
+
+void MergeByShifting(BoreHoleSet& set) {
   long i = 0;
   do {
     if (set.EventBottom(1, i + 1) <= set.EventTop(1, i + 2)) {
@@ -122,6 +202,63 @@ void MergeOverlappingLayers(BoreHoleSet& set) {
       --set.MergedEventCount;
     }
   } while (i < set.MergedEventCount - 1);
+}
+
+// The same merge on a chain of the rows: a fused row leaves the chain instead
+// of the rows below it moving up one by one, and the chain is written back
+// with the freed rows at the end.
+void MergeByChain(BoreHoleSet& set) {
+  const long count = set.EventCount;
+  std::vector<Single> tops(static_cast<std::size_t>(count + 1));
+  std::vector<Single> bottoms(tops.size());
+  std::vector<long> next(tops.size() + 1);
+  for (long r = 0; r <= count; ++r) {
+    tops[r] = std::as_const(set.EventTop)(1, r);
+    bottoms[r] = std::as_const(set.EventBottom)(1, r);
+    next[r] = r + 1;
+  }
+  long merged = set.MergedEventCount;
+  long i = 0;
+  long at = 0;  // the row at place i
+  do {
+    const long upper = next[at];
+    const long lower = next[upper];
+    if (bottoms[upper] <= tops[lower]) {
+      at = upper;
+      ++i;
+    } else {
+      if (bottoms[upper] < bottoms[lower]) bottoms[upper] = bottoms[lower];
+      next[upper] = next[lower];
+      --merged;
+    }
+  } while (i < merged - 1);
+  std::vector<Integer> order(tops.size());
+  for (long r = 1; r <= count; ++r) order[r] = std::as_const(set.EventOrder)(r);
+  long row = next[0];
+  for (long place = 1; place <= count; ++place) {
+    const bool kept = place <= merged;
+    set.EventTop(1, place) = kept ? tops[row] : -9999;
+    set.EventBottom(1, place) = kept ? bottoms[row] : -9999;
+    set.EventOrder(place) = kept ? order[row] : Integer(-9999);
+    if (kept) row = next[row];
+  }
+  set.MergedEventCount = merged;
+}
+
+// Layers that overlap become their union. The fused layer keeps its place to
+// meet its new neighbour, so a chain of overlaps collapses into one; the rows
+// freed at the end hold -9999. Layers that merely touch stay apart.
+void MergeOverlappingLayers(BoreHoleSet& set) {
+  // With fewer than two rows in the tables the first comparison fails on
+  // their bound, as the shifting merge shows.
+  const long count = set.EventCount;
+  if (FastLookups && count >= 2 && set.MergedEventCount == count &&
+      set.EventTop.UBound(2) >= count && set.EventBottom.UBound(2) >= count &&
+      set.EventOrder.UBound() >= count) {
+    MergeByChain(set);
+  } else {
+    MergeByShifting(set);
+  }
 }
 
 }  // namespace
@@ -174,8 +311,8 @@ void FrmMain::Command3_Click() {
   steps.placeModel = [] {
     StoreModelEfd(masterSet);
     for (long i = 1; i <= MergedEventCount; ++i) {
-      EventTop(2, i) = CDToEFD(EventTop(1, i)).ToSingle();
-      EventBottom(2, i) = CDToEFD(EventBottom(1, i)).ToSingle();
+      EventTop(2, i) = CDToEFD(std::as_const(EventTop)(1, i)).ToSingle();
+      EventBottom(2, i) = CDToEFD(std::as_const(EventBottom)(1, i)).ToSingle();
     }
     DrawLamina();
   };
@@ -214,8 +351,10 @@ void CombineAndSortEvents(BoreHoleSet& set, MainForm& form) {
     set.EventList(8, i) = CDToEFD(set, CSng(Val(set.EventList(6, i)))).ToText();
   }
   for (long i = 1; i <= set.MergedEventCount && !set.IsDuo; ++i) {
-    set.EventTop(2, i) = CDToEFD(set, CSng(Val(Str(set.EventTop(1, i))))).ToSingle();
-    set.EventBottom(2, i) = CDToEFD(set, CSng(Val(Str(set.EventBottom(1, i))))).ToSingle();
+    const Single top = std::as_const(set.EventTop)(1, i);
+    const Single bottom = std::as_const(set.EventBottom)(1, i);
+    set.EventTop(2, i) = CDToEFD(set, CSng(Val(Str(top)))).ToSingle();
+    set.EventBottom(2, i) = CDToEFD(set, CSng(Val(Str(bottom)))).ToSingle();
   }
   ResetProgress(form);
 }

@@ -3,6 +3,8 @@
 #include "events/varve_counts.h"
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
 #include "core/import_pattern.h"
 #include "core/project_state.h"
@@ -45,11 +47,55 @@ void SetVarveLimits(BoreHoleSet& set) {
 
 }  // namespace
 
+namespace {
+
+// Rows 1 on of the record's markers, when they never fall and end below
+// `beyond`: then a search finds where a walk from the first marker would
+// begin to count, and where it would stop.
+bool MarkersRiseBeyond(BoreHoleSet& set, Single beyond) {
+  const Table<Single, 2>& counts = set.VarveCounts;
+  if (!FastLookups || !counts.Allocated() || counts.UBound(2) < 1) return false;
+  MarkerOrder& order = set.Derived.varveMarkers;
+  if (!order.built || order.revision != counts.Revision(0)) {
+    order.rising = true;
+    for (long i = 2; i <= counts.UBound(2) && order.rising; ++i) {
+      order.rising = counts(0, i - 1) <= counts(0, i);
+    }
+    order.revision = counts.Revision(0);
+    order.built = true;
+  }
+  return order.rising && beyond < counts(0, counts.UBound(2));
+}
+
+// The first row from 1 on whose marker lies beyond `depth`, in a rising record.
+long FirstMarkerBeyond(const Table<Single, 2>& counts, Single depth) {
+  long low = 1;
+  long high = counts.UBound(2);
+  while (low < high) {
+    const long middle = low + (high - low) / 2;
+    if (counts(0, middle) > depth) {
+      high = middle;
+    } else {
+      low = middle + 1;
+    }
+  }
+  return low;
+}
+
+}  // namespace
+
 VarveSums VarveSumsAt(BoreHoleSet& set, Single depth, Single lowerDepth, Single upperDepth) {
+  const Table<Single, 2>& counts = set.VarveCounts;
   VarveSums sums;
-  for (long i = 1;; ++i) {
-    const Single interval = set.VarveCounts(1, i) - set.VarveCounts(1, i - 1);
-    const Single marker = set.VarveCounts(0, i);
+  long first = 1;
+  // The walk adds nothing until a marker passes both the lower point and the
+  // depth, nor after the first beyond the upper point.
+  const Single start = std::min(lowerDepth, depth);
+  if (start == start && MarkersRiseBeyond(set, upperDepth))
+    first = FirstMarkerBeyond(counts, start);
+  for (long i = first;; ++i) {
+    const Single interval = counts(1, i) - counts(1, i - 1);
+    const Single marker = counts(0, i);
     if (lowerDepth < marker && marker < depth) {
       sums.below += interval;
     } else if (depth < marker && marker < upperDepth) {
@@ -62,22 +108,27 @@ VarveSums VarveSumsAt(BoreHoleSet& set, Single depth, Single lowerDepth, Single 
 
 Single VarveOffset(BoreHoleSet& set, Single lowerDepth, Single upperDepth, Single before,
                    Single after) {
+  const Table<Single, 2>& counts = set.VarveCounts;
   long i = 1;
-  while (!(lowerDepth <= set.VarveCounts(0, i))) ++i;
+  // A marker at or below each point ends each search.
+  if (lowerDepth <= upperDepth && MarkersRiseBeyond(set, upperDepth)) {
+    i = FirstMarkerBeyond(counts, std::nextafter(lowerDepth, -std::numeric_limits<Single>::max()));
+  }
+  while (!(lowerDepth <= counts(0, i))) ++i;
   const long anchor = i - 1;
   i = anchor + 1;
-  while (!(upperDepth <= set.VarveCounts(0, i))) ++i;
+  while (!(upperDepth <= counts(0, i))) ++i;
   const long end = i - 1;
   Single target = 0;
   if (static_cast<Single>(before + after) != 0) {
-    target = (set.VarveCounts(1, end) - set.VarveCounts(1, anchor)) * before / (before + after);
+    target = (counts(1, end) - counts(1, anchor)) * before / (before + after);
   }
   Single count = 0;
   for (i = anchor + 1;; ++i) {
-    count += set.VarveCounts(1, i) - set.VarveCounts(1, i - 1);
+    count += counts(1, i) - counts(1, i - 1);
     if (count >= target) break;
   }
-  return set.VarveCounts(0, i - 1) - set.VarveCounts(0, anchor);
+  return counts(0, i - 1) - counts(0, anchor);
 }
 
 bool ImportVarveCounts(BoreHoleSet& set, MainForm& form, FrmVersion& versions) {

@@ -13,6 +13,13 @@
 
 namespace ostraline {
 
+// Revisions are drawn from one program-wide count, so that no two states of
+// any tables ever share one.
+inline unsigned long long NextTableRevision() {
+  static unsigned long long count = 0;
+  return ++count;
+}
+
 struct Bounds {
   long lo;
   long hi;
@@ -23,12 +30,29 @@ class Table {
  public:
   Table() = default;
 
+  // Bumped by every access that may change the contents or the bounds: what
+  // is derived from a table is rebuilt when its revision has moved on. A
+  // table of more than one dimension also keeps one for each value of its
+  // first subscript, so that what reads one scale or column of a table is
+  // not rebuilt for writes to another.
+  unsigned long long Revision() const { return revision_; }
+  unsigned long long Revision(long first) const {
+    if constexpr (Rank == 1) {
+      return revision_;
+    } else {
+      const long k = first - bounds_[0].lo;
+      if (!allocated_ || k < 0 || k >= static_cast<long>(sliceRevision_.size())) return revision_;
+      return sliceRevision_[static_cast<std::size_t>(k)];
+    }
+  }
+
   // Dimension anew: all contents are dropped.
   void Dim(std::initializer_list<Bounds> bounds) {
     if (static_cast<int>(bounds.size()) != Rank) Fail(FailureKind::SubscriptOutOfRange, "rank");
     int d = 0;
     for (const Bounds& b : bounds) bounds_[d++] = b;
     allocated_ = true;
+    Renew();
     // Default-constructed, not copied: a model's table holds some 360000 cells.
     data_.clear();
     data_.resize(Capacity());
@@ -46,10 +70,13 @@ class Table {
       Fail(FailureKind::SubscriptOutOfRange, "preserve of an undimensioned table");
     }
     bounds_[Rank - 1].hi = lastHi;
+    Renew();
     data_.resize(Capacity());
   }
 
   void Erase() {
+    revision_ = NextTableRevision();
+    sliceRevision_.clear();
     allocated_ = false;
     data_.clear();
   }
@@ -61,7 +88,19 @@ class Table {
   template <class... Ix>
   T& operator()(Ix... ix) {
     static_assert(sizeof...(Ix) == Rank, "wrong number of subscripts");
-    return data_[Offset({Subscript(ix)...})];
+    const std::array<long, Rank> at{Subscript(ix)...};
+    T& cell = data_[Offset(at)];
+    revision_ = NextTableRevision();
+    if constexpr (Rank > 1)
+      sliceRevision_[static_cast<std::size_t>(at[0] - bounds_[0].lo)] = revision_;
+    return cell;
+  }
+  // A write to a cell that nothing derived from the table reads: a scratch
+  // cell that its readers fill before they read it.
+  template <class... Ix>
+  void SetUntracked(const T& value, Ix... ix) {
+    static_assert(sizeof...(Ix) == Rank, "wrong number of subscripts");
+    data_[Offset({Subscript(ix)...})] = value;
   }
   template <class... Ix>
   const T& operator()(Ix... ix) const {
@@ -70,6 +109,16 @@ class Table {
   }
 
  private:
+  // Every revision moves on: the bounds or all the contents may have changed.
+  void Renew() {
+    revision_ = NextTableRevision();
+    if constexpr (Rank > 1) {
+      const Bounds& first = bounds_[0];
+      sliceRevision_.assign(
+          first.hi >= first.lo ? static_cast<std::size_t>(first.hi - first.lo + 1) : 0, revision_);
+    }
+  }
+
   // A fractional subscript is rounded the language's way (half to even), not cut.
   template <class I>
   static long Subscript(I ix) {
@@ -105,6 +154,8 @@ class Table {
 
   std::array<Bounds, Rank> bounds_{};
   bool allocated_ = false;
+  unsigned long long revision_ = NextTableRevision();
+  std::vector<unsigned long long> sliceRevision_;
   // vector<bool> hands out no references; a deque of bool does.
   std::conditional_t<std::is_same_v<T, bool>, std::deque<bool>, std::vector<T>> data_;
 };

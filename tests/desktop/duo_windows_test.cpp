@@ -23,8 +23,8 @@ const char* const kNoLayer = "Hole,Section,Top,Bottom,Description\r\n";
 // and A-02 PSP 20 (230 cm).
 std::string DuoModel() {
   const char* rows[] = {
-      "'Top,'Bore hole E (E),'PSP,'D,'F (F),'PSP,'D,'G (G),'PSP,'D,'H (H),'PSP,'D,'CD,'Kind "
-      "(Lake),'Hole,'Section,'PSP",
+      ("'Top,'Bore hole E (E),'PSP,'D,'F (F),'PSP,'D,'G (G),'PSP,'D,'H (H),'PSP,'D,'CD,'Kind "
+       "(Lake),'Hole,'Section,'PSP"),
       "'E,'E-01-top,'0,'90,'*,'*,'*,'*,'*,'*,'*,'*,'*,'90,'-,'---,'---,'---",
       "'E,'L1,'10,'100,'*,'*,'*,'*,'*,'*,'*,'*,'*,'100,'T,'A,'01,'10",
       "'E,'L2,'110,'200,'*,'*,'*,'*,'*,'*,'*,'*,'*,'200,'T,'A,'02,'20",

@@ -1,0 +1,90 @@
+#pragma once
+// Numbers read once from a set's text tables, kept beside them and read again
+// only when the table's revision has moved on: the lookups that run for every
+// row of a batch or at every move of the pointer read these instead of
+// parsing the same cells again. Where a cell is no number the lookups read
+// the text as before, so that the same failure happens at the same place.
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "runtime/checked_int.h"
+
+namespace ostraline {
+
+// One column of a table of text cells, rows 0..last.
+struct NumberColumn {
+  unsigned long long revision = 0;
+  bool built = false;
+  std::vector<Single> singles;
+  std::vector<double> doubles;
+  std::vector<char> isSingle;  // the cell reads as a Single
+  std::vector<char> isDouble;  // the cell reads as a Double
+  // Rows 1..risingCount are numbers that rise strictly; -1 before it is known.
+  long risingFor = -1;
+  bool rising = false;
+};
+
+// Whether the markers of the varve record, rows 1 on, never fall.
+struct MarkerOrder {
+  unsigned long long revision = 0;
+  bool built = false;
+  bool rising = false;
+};
+
+// What the composite depth of a position reads of the model, row by row:
+// each bore hole's PSP and whether the row ends a section, and the tie's
+// composite depth.
+struct TrinityCells {
+  unsigned long long modelRevision = 0;
+  unsigned long long tieRevision = 0;
+  long lastRow = -1;
+  bool built = false;
+  std::vector<double> psp[5];
+  std::vector<char> pspKnown[5];
+  std::vector<char> bottom[5];
+  std::vector<double> cd;
+  std::vector<char> cdKnown;
+};
+
+// Each bore hole's sections by name: the first with the name itself and the
+// first whose last three characters match, as the lookup's scan finds them.
+struct SectionNames {
+  unsigned long long revisions[5] = {};
+  bool holeBuilt[5] = {};
+  long counts[5] = {};
+  std::unordered_map<std::string, int> exact[5];
+  std::unordered_map<std::string, int> lastThree[5];
+};
+
+// The running sums of the two conversions between composite depth and EFD,
+// summed in the order and precision in which the conversions sum them. Row 0
+// is the conversions' own scratch row and adds nothing.
+struct LayerSums {
+  unsigned long long topRevision = 0;
+  unsigned long long bottomRevision = 0;
+  long count = -1;
+  long merged = -1;
+  bool built = false;
+  // Composite to EFD: the thickness of rows 0..i; the bottoms rise.
+  std::vector<Single> thickness;
+  std::vector<Single> tops;
+  std::vector<Single> bottoms;
+  bool bottomsRise = false;
+  // EFD to composite: the sediment above row i and the thickness of the
+  // rows before it, as doubles; whether the first, as a Single, never falls.
+  std::vector<double> freeAbove;
+  std::vector<double> thicknessBefore;
+  bool freeRises = false;
+};
+
+struct DerivedTables {
+  // The age-depth model's columns 0..11.
+  NumberColumn ageColumns[12];
+  MarkerOrder varveMarkers;
+  TrinityCells trinity;
+  SectionNames sections;
+  LayerSums layers;
+};
+
+}  // namespace ostraline

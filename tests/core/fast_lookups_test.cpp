@@ -1,0 +1,193 @@
+// The lookups that read numbers parsed once, and search where a column rises,
+// against the same lookups parsing every cell as it stands: the sample
+// project, and the same project spoiled with cells that are no numbers,
+// 9999 cells, equal and falling depths, ages and markers.
+#include <cstdint>
+#include <filesystem>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "core/depth_conversions.h"
+#include "core/hole_lookup.h"
+#include "core/project_state.h"
+#include "events/age_lookup.h"
+#include "events/event_free_depth.h"
+#include "events/event_state.h"
+#include "events/varve_counts.h"
+#include "forms/frm_main.h"
+#include "runtime/failure.h"
+#include "runtime/number_text.h"
+#include "support/fresh_program.h"
+
+namespace ostraline {
+namespace {
+
+std::string Sample(const std::string& name) {
+  return (std::filesystem::path(OSTRALINE_SAMPLES) / name).string();
+}
+
+// Every lookup over a sweep of depths and positions, each result and what it
+// leaves behind written down, failures included.
+std::string Sweep() {
+  AgeErrorPlus = AgeErrorMinus = 0;
+  AgeRowLower = AgeRowUpper = 0;
+  TopRowFound = TieRowPrevious = TieRowLast = 0;
+  std::ostringstream out;
+  const auto record = [&](const char* what, auto&& lookup) {
+    try {
+      out << what << " " << lookup().ToText();
+    } catch (const RuntimeFailure& failure) {
+      out << what << " fails " << FailureName(failure.Kind());
+    }
+    out << " " << AgeErrorPlus << " " << AgeErrorMinus << " " << AgeRowLower << " " << AgeRowUpper
+        << " " << TopRowFound << " " << TieRowPrevious << " " << TieRowLast << "\n";
+  };
+  // A sweep, and the depths where a search may stop one row off: the layers'
+  // edges, the control points and the varve markers.
+  std::vector<Single> depths;
+  for (double d = -50; d < 7300; d += 7.3) depths.push_back(static_cast<Single>(d));
+  for (long i = 1; i <= MergedEventCount; ++i) {
+    for (const Single edge : {EventTop(1, i), EventBottom(1, i)}) {
+      depths.push_back(edge);
+      depths.push_back(CDToEFD(edge).ToSingle());
+    }
+  }
+  for (long i = 1; i <= AgeModelCount; ++i) {
+    for (const int column : {5, 7, 11})
+      depths.push_back(static_cast<Single>(Val(AgeModel(column, i))));
+  }
+  for (long i = 1; i <= VarveCountRows; i += 97) depths.push_back(VarveCounts(0, i));
+  for (const Single x : depths) {
+    const double d = x;
+    record("efd", [&] { return CDToEFD(x); });
+    record("cd", [&] { return EFDToCD(x); });
+    record("age", [&] { return GetAgeFromCD(x); });
+    record("ageEfd", [&] { return GetAgeFromEFD(x); });
+    record("efdAge", [&] { return GetEFDFromAge(x); });
+    record("efdAge", [&] { return GetEFDFromAge(static_cast<Single>(d * 7)); });
+    try {
+      const VarveSums sums = VarveSumsAt(x, x - 40, x + 35);
+      out << "varves " << sums.below << " " << sums.above << " "
+          << VarveOffset(x - 40, x + 35, 3, 5) << "\n";
+    } catch (const RuntimeFailure& failure) {
+      out << "varves fail " << FailureName(failure.Kind()) << "\n";
+    }
+  }
+  for (int hole = 0; hole <= 5; ++hole) {
+    for (const char* name : {"01", "5", "005", "12", "29", "44", "99", "abc"}) {
+      out << "section " << SectionOrdinalByName(hole, name).Get() << "\n";
+    }
+    for (int section = 0; section <= 46; section += 3) {
+      for (double psp = -5; psp < 210; psp += 11.3) {
+        record("trinity", [&] { return CompositeFromTrinity(hole, section, Single(psp)); });
+      }
+    }
+  }
+  return out.str();
+}
+
+class FastLookups : public FreshProgram {
+ protected:
+  void SetUp() override {
+    FreshProgram::SetUp();
+    for (const auto& [file, button] :
+         {std::pair{"correlation_model_20250314.csv", &FrmMain::Command1_Click},
+          {"event_layers_20250320.csv", &FrmMain::Command3_Click},
+          {"age_depth_model_20250402.csv", &FrmMain::Command4_Click},
+          {"varve_counts_20250325.csv", &FrmMain::Command5_Click}}) {
+      platform.QueueFile(Sample(file));
+      ((*frmMain).*button)();
+    }
+    ASSERT_TRUE(VarveCountsLoaded) << OnlyMessage();
+  }
+  void ExpectSameSweep(const char* what) {
+    ostraline::FastLookups = false;
+    const std::string plain = Sweep();
+    ostraline::FastLookups = true;
+    const std::string fast = Sweep();
+    std::istringstream a(fast);
+    std::istringstream b(plain);
+    std::string lineA;
+    std::string lineB;
+    long line = 0;
+    while (std::getline(b, lineB)) {
+      ++line;
+      std::getline(a, lineA);
+      if (lineA != lineB) {
+        ADD_FAILURE() << what << ", line " << line << ": fast '" << lineA << "', plain '" << lineB
+                      << "'";
+        return;
+      }
+    }
+    EXPECT_EQ(fast.size(), plain.size()) << what;
+  }
+};
+
+TEST_F(FastLookups, SameResultsOnTheSampleAndOnItsSpoiledCopies) {
+  ExpectSameSweep("the sample project");
+
+  // Cells that are no numbers and 9999 cells in the model.
+  ModelCell(0, 1, 1, 150) = "abc";
+  ModelCell(0, 2, 1, 300) = "9999";
+  TieCell(1, 160) = "9999";
+  TieCell(1, 170) = "";
+  ExpectSameSweep("model cells spoiled");
+
+  // Equal and falling ages and depths in the age-depth model, and a cell
+  // that is no number.
+  AgeModel(7, 5) = AgeModel(7, 4);
+  AgeModel(11, 9) = "100";
+  AgeModel(7, 12) = "1e3";
+  ExpectSameSweep("ages out of order");
+  AgeModel(11, 14) = "n/a";
+  ExpectSameSweep("an EFD that is no number");
+
+  // A marker out of order, and layers whose bottoms fall.
+  VarveCounts(0, 40) = VarveCounts(0, 10);
+  ExpectSameSweep("markers out of order");
+  EventBottom(1, 7) = EventTop(1, 2);
+  EventTop(1, 12) = 9999;
+  ExpectSameSweep("layers out of order");
+}
+
+// The sort of a long list of layers finds each row as the scan does: equal
+// tops, tops of 9999 from unknown sections, and rows the scan never chooses.
+TEST(FastSort, LongListsSortAsTheScanSortsThem) {
+  std::string list = "Hole,Section,Top,Bottom,Description\r\n";
+  std::uint32_t draw = 7;
+  const auto next = [&draw](std::uint32_t range) {
+    draw = draw * 1664525u + 1013904223u;
+    return (draw >> 8) % range;
+  };
+  for (int i = 0; i < 3000; ++i) {
+    const int top = static_cast<int>(next(40)) * 2;
+    const char* section = next(17) == 0 ? "07" : next(2) == 0 ? "01" : "02";
+    list += std::string("A,") + section + "," + std::to_string(top) + "," +
+            std::to_string(top + static_cast<int>(next(5))) + ",Layer\r\n";
+  }
+  const auto import = [&](bool fast) {
+    ScriptedPlatform platform;
+    SetPlatform(&platform);
+    ResetProgram();
+    ostraline::FastLookups = fast;
+    platform.QueueFile(WriteTempFile("model_20110305.csv", ModelText(TwoSectionModel())));
+    frmMain->Command1_Click();
+    platform.QueueFile(WriteTempFile("events_20110401.csv", list));
+    frmMain->Command3_Click();
+    std::ostringstream out;
+    out << MergedEventCount << " " << platform.messages.size() << "\n";
+    for (long i = 0; i <= EventCount; ++i) {
+      out << EventTop(1, i) << " " << EventBottom(1, i) << " " << EventOrder(i) << "\n";
+    }
+    ResetProgram();
+    SetPlatform(nullptr);
+    return out.str();
+  };
+  const std::string plain = import(false);
+  EXPECT_GT(plain.size(), 3000u);
+  EXPECT_TRUE(import(true) == plain);
+}
+
+}  // namespace
+}  // namespace ostraline
