@@ -104,6 +104,21 @@ BENCHMARK_F(CoreView, DrawLaminaAgeStrip)(benchmark::State& state) {
   for (auto _ : state) DrawLamina();
 }
 
+// The pointer moving over bore hole B: the overlay on the columns and the
+// tool tips of the rows under it, now and then at the target's level, where
+// the search of its section runs too.
+BENCHMARK_F(CoreView, PointerMove)(benchmark::State& state) {
+  DrawLamina();
+  FrmMain& form = *frmMain;
+  const float top = form.BoreHole(2).ScaleTop;
+  int step = 0;
+  for (auto _ : state) {
+    const float y = top + static_cast<float>(step % 500);
+    form.BoreHole_MouseMove(2, 0, 0, 3.0f, y);
+    ++step;
+  }
+}
+
 // Twenty thousand years to the cm: a tick of the strip every hundred years is
 // a hundred thousand lookups in the model. The argument 0 runs every tick of
 // the loop; 1 computes what can show.

@@ -71,8 +71,10 @@ struct BoreHoleSet {
   Single VarveBottomEFD = 0;
   std::string VarveVersion;
 
-  // Numbers parsed once from the text tables above.
-  DerivedTables Derived;
+  // Numbers parsed once from the text tables above; reading them again when
+  // a table has changed leaves the set as it is, so readers of a set that
+  // may not change it read them too.
+  mutable DerivedTables Derived;
 
   // The main form's drive guards and the texts its three boxes go back to.
   Integer DrivenBy = 9999;

@@ -1,5 +1,7 @@
 #include "core/depth_conversions.h"
 
+#include <utility>
+
 #include "core/hole_lookup.h"
 #include "core/project_state.h"
 #include "display/display_state.h"
@@ -11,11 +13,11 @@
 namespace ostraline {
 namespace {
 
-double Psp(BoreHoleSet& set, int hole, long row) {
-  return CDbl(set.ModelCell(0, hole, 1, row));
+double Psp(const BoreHoleSet& set, int hole, long row) {
+  return CDbl(std::as_const(set.ModelCell)(0, hole, 1, row));
 }
-double Cd(BoreHoleSet& set, long row) {
-  return CDbl(set.TieCell(1, row));
+double Cd(const BoreHoleSet& set, long row) {
+  return CDbl(std::as_const(set.TieCell)(1, row));
 }
 
 // The section's rows with a PSP go to the divider's two lists and to
@@ -26,14 +28,14 @@ long FillDividerLists(BoreHoleSet& set, int hole) {
   divider.Combo1(1).Clear();
   long used = 0;
   for (long r = TargetTopRow;; ++r) {
-    const std::string& label = set.ModelCell(0, hole, 0, r);
-    if (set.ModelCell(0, hole, 1, r) != "9999") {
+    const std::string& label = std::as_const(set.ModelCell)(0, hole, 0, r);
+    if (std::as_const(set.ModelCell)(0, hole, 1, r) != "9999") {
       divider.Combo1(0).AddItem(label);
       divider.Combo1(1).AddItem(label);
       ++used;
       SectionTieList(used, 0) = label;
-      SectionTieList(used, 1) = set.ModelCell(0, hole, 1, r);
-      SectionTieList(used, 2) = set.TieCell(1, r);
+      SectionTieList(used, 1) = std::as_const(set.ModelCell)(0, hole, 1, r);
+      SectionTieList(used, 2) = std::as_const(set.TieCell)(1, r);
     }
     if (IsSectionBottom(label)) break;
   }
@@ -53,9 +55,11 @@ namespace {
 struct PlainCells {
   const BoreHoleSet& set;
   int hole;
-  double Psp(long row) const { return CDbl(set.ModelCell(0, hole, 1, row)); }
-  double Cd(long row) const { return CDbl(set.TieCell(1, row)); }
-  bool Bottom(long row) const { return IsSectionBottom(set.ModelCell(0, hole, 0, row)); }
+  double Psp(long row) const { return CDbl(std::as_const(set.ModelCell)(0, hole, 1, row)); }
+  double Cd(long row) const { return CDbl(std::as_const(set.TieCell)(1, row)); }
+  bool Bottom(long row) const {
+    return IsSectionBottom(std::as_const(set.ModelCell)(0, hole, 0, row));
+  }
 };
 
 // A cell that is no number sends the lookup back to the plain cells, which
@@ -204,16 +208,17 @@ void GetPSP(BoreHoleSet& set, int hole, Single target) {
     long found = 0;
     long lastTie = 0;
     for (long r = 1; r <= set.LastRow && found == 0; ++r) {
-      const std::string& label = set.ModelCell(0, hole, 0, r);
+      const std::string& label = std::as_const(set.ModelCell)(0, hole, 0, r);
       if (IsSectionTop(label)) TargetTopRow = static_cast<int>(r);
-      if (Val(set.ModelCell(1, hole, 2, r)) != 9999 && Cd(set, r) != 9999) lastTie = r;
+      if (Val(std::as_const(set.ModelCell)(1, hole, 2, r)) != 9999 && Cd(set, r) != 9999)
+        lastTie = r;
       if (IsSectionBottom(label)) {
-        const double e =
-            Val(set.ModelCell(0, hole, 1, r)) - Val(set.ModelCell(0, hole, 1, lastTie));
+        const double e = Val(std::as_const(set.ModelCell)(0, hole, 1, r)) -
+                         Val(std::as_const(set.ModelCell)(0, hole, 1, lastTie));
         if (form.Option2(1).Value && CSng(Cd(set, lastTie) + e) > target) {
           found = r;
         } else if (form.Option2(0).Value &&
-                   CSng(CDbl(set.ModelCell(0, hole, 2, lastTie)) + e) > target) {
+                   CSng(CDbl(std::as_const(set.ModelCell)(0, hole, 2, lastTie)) + e) > target) {
           found = r;
         }
       }
@@ -229,11 +234,13 @@ void GetPSP(BoreHoleSet& set, int hole, Single target) {
       for (;;) {
         ++r;
         const bool inReach = composite ? r <= found : r < found;
-        if (set.ModelCell(0, hole, 1, r) != "9999" && inReach && set.TieCell(1, r) != "9999") {
+        if (std::as_const(set.ModelCell)(0, hole, 1, r) != "9999" && inReach &&
+            std::as_const(set.TieCell)(1, r) != "9999") {
           TieRowAbove = TieRowBelow;
           TieRowBelow = static_cast<int>(r);
         }
-        const bool good = set.TieCell(1, r) != "9999" && set.ModelCell(0, hole, 2, r) != "9999" &&
+        const bool good = std::as_const(set.TieCell)(1, r) != "9999" &&
+                          std::as_const(set.ModelCell)(0, hole, 2, r) != "9999" &&
                           CSng(Cd(set, r)) > target;
         if (good && TieRowAbove > 0) break;
         if (composite && r >= found) break;
@@ -263,7 +270,7 @@ void GetPSP(BoreHoleSet& set, int hole, Single target) {
       }
     } else if (drilling) {
       // The drilling depth of the section's top is the origin of the PSP.
-      TargetPSP = CSng(target - CDbl(set.ModelCell(0, hole, 2, TargetTopRow)));
+      TargetPSP = CSng(target - CDbl(std::as_const(set.ModelCell)(0, hole, 2, TargetTopRow)));
     }
 
     form.BoreHole(hole).ToolTipText = "Target depth: " + Str(TargetPSP) + " (cm)";

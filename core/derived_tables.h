@@ -78,6 +78,24 @@ struct LayerSums {
   bool freeRises = false;
 };
 
+// What the core view reads of every row on one scale: each bore hole's depth
+// cell, as the drawing and the pointer read it, and whether the row closes a
+// section; each tie's depth and whether its kind marks a gap.
+struct ScaleRows {
+  unsigned long long modelScale = 0;
+  unsigned long long modelLabels = 0;
+  unsigned long long tieScale = 0;
+  unsigned long long tieKinds = 0;
+  long lastRow = -1;
+  int scale = -1;
+  bool built = false;
+  std::vector<Single> holeDepth;  // row * 4 + hole - 1
+  std::vector<double> holeDepthVal;
+  std::vector<char> closes;
+  std::vector<Single> tieDepth;
+  std::vector<char> gap;
+};
+
 struct DerivedTables {
   // The age-depth model's columns 0..11.
   NumberColumn ageColumns[12];
@@ -85,6 +103,7 @@ struct DerivedTables {
   TrinityCells trinity;
   SectionNames sections;
   LayerSums layers;
+  ScaleRows rows;
 };
 
 }  // namespace ostraline

@@ -3,6 +3,8 @@
 // column, and the fixed horizon.
 #include <string>
 
+#include <utility>
+
 #include "core/project_state.h"
 #include "display/core_columns_paint.h"
 #include "display/core_columns_rows.h"
@@ -42,7 +44,7 @@ void MarkBoreHoleRow(BoreHoleSet& set, MainForm& form, const ModelRows& rows, in
   const double labelY = depth - offset;
   if (!(depth > column.ScaleTop && column.ScaleTop + column.ScaleHeight > labelY)) return;
   const std::string& label = rows.Label(hole, r);
-  const std::string text = label + " (" + set.ModelCell(0, hole, 1, r) + " cm)";
+  const std::string text = label + " (" + std::as_const(set.ModelCell)(0, hole, 1, r) + " cm)";
   const bool labelled = LabelFontSize > 1;
   if (rows.IsPinRow(hole, r)) {
     column.FillColor = kPinGreen;

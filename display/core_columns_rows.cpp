@@ -16,23 +16,46 @@ bool IsGap(const std::string& kind) {
 
 }  // namespace
 
-ModelRows::ModelRows(const BoreHoleSet& set)
-    : set_(set),
-      axis_(ColumnScaleOf(set)),
-      lastRow_(set.LastRow),
-      holeRows_(static_cast<std::size_t>(lastRow_ + 1) * 4),
-      tieRows_(static_cast<std::size_t>(lastRow_ + 1)) {
-  for (long r = 0; r <= lastRow_; ++r) {
-    TieRow& tie = tieRows_[static_cast<std::size_t>(r)];
-    tie.depth = CellNumber(set_.TieCell(axis_, r));
-    tie.gap = IsGap(Kind(r));
+const ScaleRows& RowsOnScale(const BoreHoleSet& set, int scale) {
+  ScaleRows& rows = set.Derived.rows;
+  const Table<std::string, 4>& model = set.ModelCell;
+  const Table<std::string, 2>& ties = set.TieCell;
+  const long last = set.LastRow;
+  if (rows.built && rows.scale == scale && rows.lastRow == last &&
+      rows.modelScale == model.Revision(scale) && rows.modelLabels == model.Revision(0) &&
+      rows.tieScale == ties.Revision(scale) && rows.tieKinds == ties.Revision(0)) {
+    return rows;
+  }
+  rows = ScaleRows{};
+  const auto count = static_cast<std::size_t>(last + 1);
+  rows.holeDepth.resize(count * 4);
+  rows.holeDepthVal.resize(count * 4);
+  rows.closes.resize(count * 4);
+  rows.tieDepth.resize(count);
+  rows.gap.resize(count);
+  for (long r = 0; r <= last; ++r) {
+    rows.tieDepth[r] = CellNumber(ties(scale, r));
+    rows.gap[r] = IsGap(ties(0, r)) ? 1 : 0;
     for (int hole = 1; hole <= 4; ++hole) {
-      HoleRow& row = holeRows_[Slot(hole, r)];
-      row.depth = CellNumber(DepthText(hole, r));
-      row.closes = IsSectionBottom(Label(hole, r));
+      const std::size_t slot = static_cast<std::size_t>(r) * 4 + static_cast<std::size_t>(hole - 1);
+      const std::string& depth = model(scale, hole, 2, r);
+      rows.holeDepth[slot] = CellNumber(depth);
+      rows.holeDepthVal[slot] = Val(depth);
+      rows.closes[slot] = IsSectionBottom(model(0, hole, 0, r)) ? 1 : 0;
     }
   }
+  rows.modelScale = model.Revision(scale);
+  rows.modelLabels = model.Revision(0);
+  rows.tieScale = ties.Revision(scale);
+  rows.tieKinds = ties.Revision(0);
+  rows.lastRow = last;
+  rows.scale = scale;
+  rows.built = true;
+  return rows;
 }
+
+ModelRows::ModelRows(const BoreHoleSet& set)
+    : set_(set), axis_(ColumnScaleOf(set)), lastRow_(set.LastRow), rows_(RowsOnScale(set, axis_)) {}
 
 const std::string& ModelRows::DepthText(int hole, long row) const {
   return set_.ModelCell(axis_, hole, 2, row);

@@ -10,13 +10,16 @@
 
 namespace ostraline {
 
+// The rows on one scale, read anew when the model has changed since.
+const ScaleRows& RowsOnScale(const BoreHoleSet& set, int scale);
+
 class ModelRows {
  public:
   explicit ModelRows(const BoreHoleSet& set);
 
   long LastRow() const { return lastRow_; }
   // ModelCell(scale, hole, 2, row) as a Single.
-  Single Depth(int hole, long row) const { return holeRows_[Slot(hole, row)].depth; }
+  Single Depth(int hole, long row) const { return rows_.holeDepth[Slot(hole, row)]; }
   // The depth cell as text, for the comparison between sections.
   const std::string& DepthText(int hole, long row) const;
   // ModelCell(scale, hole, 1, row) as a number: the PSP on the composite scale.
@@ -24,32 +27,22 @@ class ModelRows {
   // ModelCell(0, hole, 0, row): the lamina label, and what it marks.
   const std::string& Label(int hole, long row) const;
   bool OpensSection(int hole, long row) const;
-  bool ClosesSection(int hole, long row) const { return holeRows_[Slot(hole, row)].closes; }
+  bool ClosesSection(int hole, long row) const { return rows_.closes[Slot(hole, row)] != 0; }
   bool IsPinRow(int hole, long row) const;
   // The first row after this one that opens a section, or the last row.
   long NextSectionStart(int hole, long row) const;
 
   // TieCell(scale, row) as a Single: the row's depth on the composite column.
-  Single Tie(long row) const { return tieRows_[static_cast<std::size_t>(row)].depth; }
+  Single Tie(long row) const { return rows_.tieDepth[static_cast<std::size_t>(row)]; }
   // TieCell(0, row): the bore hole that carries the composite from this row
   // on, or a gap.
   const std::string& Kind(long row) const;
-  bool KindIsGap(long row) const { return tieRows_[static_cast<std::size_t>(row)].gap; }
+  bool KindIsGap(long row) const { return rows_.gap[static_cast<std::size_t>(row)] != 0; }
   // Whether Kind(row) equals HoleName(hole), and whether it equals any of them.
   bool KindNames(int hole, long row) const;
   bool KindNamesAnyHole(long row) const;
 
  private:
-  // What every step reads of every row; the rest is read where a row is in
-  // view or next to a tie.
-  struct HoleRow {
-    Single depth = 0;
-    bool closes = false;
-  };
-  struct TieRow {
-    Single depth = 0;
-    bool gap = false;
-  };
   std::size_t Slot(int hole, long row) const {
     return static_cast<std::size_t>(row) * 4 + static_cast<std::size_t>(hole - 1);
   }
@@ -57,8 +50,9 @@ class ModelRows {
   const BoreHoleSet& set_;
   int axis_;
   long lastRow_;
-  std::vector<HoleRow> holeRows_;  // rows 0..LastRow of bore holes 1..4
-  std::vector<TieRow> tieRows_;    // rows 0..LastRow
+  // What every step reads of every row, kept between repaints; the rest is
+  // read where a row is in view or next to a tie.
+  const ScaleRows& rows_;
 };
 
 }  // namespace ostraline

@@ -3,9 +3,11 @@
 #include "display/mouse_on_columns.h"
 
 #include <cmath>
+#include <utility>
 
 #include "core/depth_conversions.h"
 #include "core/project_state.h"
+#include "display/core_columns_rows.h"
 #include "display/display_state.h"
 #include "display/form_view.h"
 #include "display/target_line.h"
@@ -44,11 +46,14 @@ void ShowAgePoints(MainForm& form, int index, Single x, Single y) {
   }
 }
 
+// The composite column has no rows of its own to name.
 void ShowRows(MainForm& form, int index, Single y) {
-  BoreHoleSet& set = SetOf(form);
+  const BoreHoleSet& set = SetOf(form);
+  if (index < 1 || index > 4) return;
+  const ScaleRows& rows = RowsOnScale(set, ColumnScaleOf(set));
   for (long row = 1; row <= set.LastRow; ++row) {
-    const double depth = Val(set.ModelCell(ColumnScaleOf(set), index, 2, row));
-    if (index != 0 && Near(set, depth, y)) {
+    const double depth = rows.holeDepthVal[static_cast<std::size_t>(row) * 4 + (index - 1)];
+    if (Near(set, depth, y)) {
       form.BoreHole(index).ToolTipText =
           set.ModelCell(0, index, 0, row) + " (" + set.ModelCell(0, index, 1, row) + " cm)";
     }
@@ -57,11 +62,12 @@ void ShowRows(MainForm& form, int index, Single y) {
 
 void TakeBrackets(BoreHoleSet& set, int index, Single y) {
   GetPSP(set, index, y);
-  TieAbovePSP = CSng(Val(set.ModelCell(0, index, 1, TieRowAbove)));
+  const auto& model = std::as_const(set.ModelCell);
+  TieAbovePSP = CSng(Val(model(0, index, 1, TieRowAbove)));
   ClickedPSP = TargetPSP;
-  TieBelowPSP = CSng(Val(set.ModelCell(0, index, 1, TieRowBelow)));
-  TieAboveLabel = set.ModelCell(0, index, 0, TieRowAbove);
-  TieBelowLabel = set.ModelCell(0, index, 0, TieRowBelow);
+  TieBelowPSP = CSng(Val(model(0, index, 1, TieRowBelow)));
+  TieAboveLabel = model(0, index, 0, TieRowAbove);
+  TieBelowLabel = model(0, index, 0, TieRowBelow);
 }
 
 void ClickOnBoreHole(MainForm& form, int index, int button, int shift, Single x, Single y) {
