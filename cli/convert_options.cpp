@@ -74,6 +74,8 @@ ParsedCommandLine ParseCommandLine(const std::vector<std::string>& args) {
       options.ignoreVersionMismatch = true;
     } else if (name == "--duo" && !inlineValue) {
       options.duo = true;
+    } else if (name == "--force" && !inlineValue) {
+      options.force = true;
     } else if (const auto file = FileOption(options, name)) {
       const auto given = value();
       if (!given) break;
@@ -143,7 +145,7 @@ const char* HelpText() {
                          [--extrapolation proportional|one-to-one]
                          [--depth-digits N] [--age-digits N]
                          [--from trinity|composite|efd|age] [--to composite,efd,age]
-                         [--ignore-version-mismatch] INPUT OUTPUT
+                         [--ignore-version-mismatch] [--force] INPUT OUTPUT
 
 Converts the data file INPUT between the scales of a project and writes OUTPUT,
 the same file that "Convert from data file" and "Convert and Save" of the
@@ -186,12 +188,16 @@ Choices:
                      import an age-depth model made for another version of
                      the correlation model (the warning is answered Yes);
                      without it such a model is not imported
+  --force            replace an OUTPUT that is read-only
   -h, --help         show this text
 
 Messages of the program go to standard error. Exit status: 0 when OUTPUT was
 written, 1 when an import or the conversion failed (OUTPUT, if it existed, is
-left as it was), 2 for a wrong command line or a Duo import whose button is
-not open at its turn.
+left as it was), 2 for a wrong command line, an OUTPUT that is one of the input
+files or is read-only (without --force), or a Duo import whose button is not
+open at its turn. OUTPUT is replaced only when complete: a link is written
+through to its file, the file keeps its permissions, and an interrupted run
+leaves nothing behind.
 )";
 }
 

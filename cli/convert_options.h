@@ -25,6 +25,8 @@ struct ConvertOptions {
   std::optional<int> from;
   std::optional<int> to;  // sum of codes
   bool ignoreVersionMismatch = false;
+  // Replace an OUTPUT that is read-only.
+  bool force = false;
   std::string input;
   std::string output;
 };

@@ -1,5 +1,8 @@
 #include "cli/convert_run.h"
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <fstream>
 #include <functional>
 #include <string>
@@ -65,13 +68,15 @@ class Conversion {
   ~Conversion() { SetPlatform(nullptr); }
 
   int Run() {
-    for (const std::string* file :
-         {&options_.model, &options_.events, &options_.ages, &options_.varves, &options_.duoModel,
-          &options_.duoEvents, &options_.duoAges, &options_.duoVarves, &options_.input}) {
+    const std::string* inputs[] = {&options_.model,   &options_.events,    &options_.ages,
+                                   &options_.varves,  &options_.duoModel,  &options_.duoEvents,
+                                   &options_.duoAges, &options_.duoVarves, &options_.input};
+    for (const std::string* file : inputs) {
       if (!file->empty() && !std::ifstream(*file, std::ios::binary)) {
         return Failed("cannot open " + *file);
       }
     }
+    if (const int refused = CheckOutput(inputs); refused != 0) return refused;
     FrmMain& main = *frmMain;
     // Chosen before the model is read, so that its depths are made by it.
     if (options_.oneToOne) main.Option4(1).Value = true;
@@ -180,6 +185,28 @@ class Conversion {
         return kRefused;
       }
       if (!Import(link.what, link.file, link.button, link.click)) return 1;
+    }
+    return 0;
+  }
+
+  // An output that is one of the inputs, under whatever name, would be lost;
+  // a read-only output is replaced only when the user says so.
+  template <std::size_t N>
+  int CheckOutput(const std::string* const (&inputs)[N]) {
+    struct stat output {};
+    if (stat(options_.output.c_str(), &output) != 0) return 0;
+    for (const std::string* file : inputs) {
+      struct stat input {};
+      if (file->empty() || stat(file->c_str(), &input) != 0) continue;
+      if (input.st_dev == output.st_dev && input.st_ino == output.st_ino) {
+        Failed("OUTPUT " + options_.output + " is the same file as " + *file +
+               "; choose another name for the converted file");
+        return kRefused;
+      }
+    }
+    if (!options_.force && access(options_.output.c_str(), W_OK) != 0) {
+      Failed("OUTPUT " + options_.output + " is read-only; --force replaces it");
+      return kRefused;
     }
     return 0;
   }

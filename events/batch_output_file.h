@@ -1,7 +1,10 @@
 #pragma once
-// The converted file is written beside its target and put in its place only
-// when complete: a conversion that fails or is cut short leaves whatever file
-// stood there before untouched.
+// The converted file is written under a short temporary name in its target's
+// folder and put in its place only when complete: a conversion that fails,
+// or a signal that ends it, leaves whatever file stood there before
+// untouched and no temporary file behind. A target that is a link is
+// written through to the file the link names; a replaced file keeps its
+// permissions, and its owner where the user may give it.
 #include <cstdio>
 #include <string>
 
@@ -9,8 +12,8 @@ namespace ostraline {
 
 class ReplacementFile {
  public:
-  // Creates the temporary file beside target; a folder that cannot take it
-  // fails as a file that cannot be opened.
+  // Creates the temporary file; a folder that cannot take it fails as a file
+  // that cannot be opened, with the system's reason in the failure's detail.
   explicit ReplacementFile(std::string target);
   ReplacementFile(const ReplacementFile&) = delete;
   ReplacementFile& operator=(const ReplacementFile&) = delete;

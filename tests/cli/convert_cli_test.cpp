@@ -1,4 +1,6 @@
+#include <signal.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include <cstdlib>
 #include <filesystem>
@@ -237,6 +239,81 @@ TEST_F(ConvertCommand, DuoSamplesBothWays) {
   EXPECT_EQ(run.status, 2) << run.errors;
   EXPECT_NE(run.errors.find("refused"), std::string::npos) << run.errors;
   EXPECT_FALSE(fs::exists(Path("out2.csv")));
+}
+
+bool LeftoverIn(const fs::path& folder) {
+  for (const auto& entry : fs::directory_iterator(folder)) {
+    if (entry.path().filename().string().rfind(".ostraline-", 0) == 0) return true;
+  }
+  return false;
+}
+
+// No run loses a file: an output that is an input under another name is
+// refused, a link keeps pointing at its file, a replaced file keeps its
+// permissions, a long name works, a read-only output needs --force, and a
+// signal in the middle of writing leaves nothing behind.
+TEST_F(ConvertCommand, TheOutputIsReplacedWithoutLosingAFile) {
+  const std::string chain = "--model model_20110305.csv --events events_20110401.csv ";
+  Outcome run = Convert(chain + "samples.csv ./samples.csv");
+  EXPECT_EQ(run.status, 2);
+  EXPECT_NE(run.errors.find("same file"), std::string::npos) << run.errors;
+  fs::create_hard_link(Path("model_20110305.csv"), Path("linked.csv"));
+  EXPECT_EQ(Convert(chain + "samples.csv linked.csv").status, 2);
+  EXPECT_EQ(Read("samples.csv"), kPositions);
+
+  Write("kept.csv", "old");
+  fs::permissions(Path("kept.csv"), fs::perms::owner_read | fs::perms::owner_write);
+  fs::create_symlink("kept.csv", Path("link.csv"));
+  run = Convert(chain + "samples.csv link.csv");
+  EXPECT_EQ(run.status, 0) << run.errors;
+  EXPECT_TRUE(fs::is_symlink(Path("link.csv")));
+  EXPECT_EQ(Read("kept.csv").rfind(kHeader, 0), 0u);
+  EXPECT_EQ(fs::status(Path("kept.csv")).permissions() & fs::perms::all,
+            fs::perms::owner_read | fs::perms::owner_write);
+
+  const std::string longName(250, 'n');
+  EXPECT_EQ(Convert(chain + "samples.csv " + longName).status, 0);
+  EXPECT_EQ(Read(longName), Read("kept.csv"));
+
+  Write("locked.csv", "old");
+  fs::permissions(Path("locked.csv"), fs::perms::owner_read);
+  if (access(Path("locked.csv").c_str(), W_OK) != 0) {  // root may write anyway
+    run = Convert(chain + "samples.csv locked.csv");
+    EXPECT_EQ(run.status, 2);
+    EXPECT_NE(run.errors.find("--force"), std::string::npos) << run.errors;
+    EXPECT_EQ(Read("locked.csv"), "old");
+  }
+  EXPECT_EQ(Convert(chain + "--force samples.csv locked.csv").status, 0);
+  EXPECT_EQ(Read("locked.csv"), Read("kept.csv"));
+  EXPECT_EQ(fs::status(Path("locked.csv")).permissions() & fs::perms::all, fs::perms::owner_read);
+  EXPECT_FALSE(LeftoverIn(folder));
+
+  // A long file, and SIGTERM while its conversion is being written.
+  std::string big = "Sample,Hole,Section,PSP\r\n";
+  for (int i = 0; i < 200000; ++i) big += "S" + std::to_string(i) + ",A,01,30\r\n";
+  Write("big.csv", big);
+  Write("out.csv", "old");
+  const pid_t child = fork();
+  if (child == 0) {
+    const std::string model = Path("model_20110305.csv");
+    const std::string input = Path("big.csv");
+    const std::string output = Path("out.csv");
+    execl(OSTRALINE_CONVERT, OSTRALINE_CONVERT, "--model", model.c_str(), input.c_str(),
+          output.c_str(), static_cast<char*>(nullptr));
+    _exit(127);
+  }
+  bool writing = false;
+  for (int wait = 0; wait < 60000 && !writing; ++wait) {
+    writing = LeftoverIn(folder);
+    if (!writing) usleep(1000);
+  }
+  kill(child, SIGTERM);
+  int status = 0;
+  waitpid(child, &status, 0);
+  EXPECT_TRUE(writing);
+  EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGTERM);
+  EXPECT_FALSE(LeftoverIn(folder));
+  EXPECT_EQ(Read("out.csv"), "old");
 }
 
 }  // namespace
