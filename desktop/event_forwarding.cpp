@@ -11,6 +11,7 @@ namespace {
 
 // Events nest: a handler may open a pop-up menu whose click is an event too.
 int g_depth = 0;
+long g_escaped = 0;
 
 bool AnyFormLoaded() {
   for (const FormSlot* slot : FormSlot::All()) {
@@ -26,6 +27,7 @@ void ForwardEvent(const std::function<void()>& event) {
   try {
     event();
   } catch (const std::exception& failure) {
+    ++g_escaped;
     std::fprintf(stderr, "ostraline: a handler failed: %s\n", failure.what());
   }
   --g_depth;
@@ -35,6 +37,10 @@ void ForwardEvent(const std::function<void()>& event) {
     QMetaObject::invokeMethod(QCoreApplication::instance(), &QCoreApplication::quit,
                               Qt::QueuedConnection);
   }
+}
+
+long EscapedFailures() {
+  return g_escaped;
 }
 
 }  // namespace ostraline

@@ -9,5 +9,7 @@ namespace ostraline {
 // event, the forms unloaded meanwhile are freed, and the program ends when no
 // form is left loaded.
 void ForwardEvent(const std::function<void()>& event);
+// How many failures no handler caught since the program started.
+long EscapedFailures();
 
 }  // namespace ostraline
