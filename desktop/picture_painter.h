@@ -1,6 +1,7 @@
 #pragma once
-// The one replayer of recorded drawing operations: the window, the clipboard
-// and screenshots all paint through it. Operations are in twips from the
+// The one QPainter replayer of recorded drawing operations: the window, the
+// clipboard's bitmap and screenshots all paint through it, on the pixel grid
+// that the clipboard's vector copy shares. Operations are in twips from the
 // surface's top left corner; the painter's origin must be that corner, on a
 // whole logical pixel.
 #include <QImage>

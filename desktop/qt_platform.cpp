@@ -4,12 +4,14 @@
 #include <QCoreApplication>
 #include <QCursor>
 #include <QGuiApplication>
+#include <QMimeData>
 #include <QScreen>
 
 #include "desktop/conversions.h"
 #include "desktop/picture_painter.h"
 #include "desktop/raster_cache.h"
 #include "forms/canvas.h"
+#include "forms/picture_svg.h"
 
 namespace ostraline {
 namespace {
@@ -53,8 +55,13 @@ void QtPlatform::ClipboardClear() {
   QGuiApplication::clipboard()->clear();
 }
 
+// The bitmap for programs that paste pixels, and the same operations as
+// vectors for drawing and office programs, which keep lines and text sharp.
 void QtPlatform::ClipboardSetPicture(const Picture& picture) {
-  QGuiApplication::clipboard()->setImage(RenderPicture(picture));
+  auto* data = new QMimeData;
+  data->setImageData(RenderPicture(picture));
+  data->setData(QStringLiteral("image/svg+xml"), QByteArray::fromStdString(PictureSvg(picture)));
+  QGuiApplication::clipboard()->setMimeData(data);
 }
 
 std::shared_ptr<const RasterImage> QtPlatform::LoadPicture(const std::string& path) {
