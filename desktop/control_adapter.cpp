@@ -15,7 +15,10 @@
 namespace ostraline {
 
 ControlAdapter::ControlAdapter(Control& control, QWidget* widget)
-    : model_(&control), widget_(widget), keySource_(widget) {}
+    : model_(&control), widget_(widget), keySource_(widget) {
+  // The control's own name ("Combo2", "Picture1(3)"), for accessibility tools and tests.
+  if (widget_ != nullptr) widget_->setObjectName(ToQString(control.FullName()));
+}
 
 void ControlAdapter::Sync(std::string_view property) {
   if (model_ == nullptr) return;

@@ -5,6 +5,7 @@
 #include <exception>
 
 #include "forms/form.h"
+#include "forms/platform.h"
 
 namespace ostraline {
 namespace {
@@ -27,8 +28,16 @@ void ForwardEvent(const std::function<void()>& event) {
   try {
     event();
   } catch (const std::exception& failure) {
+    // A failure that no handler traps ends in the run-time's error box; the
+    // program goes on, so that nothing imported is lost.
     ++g_escaped;
     std::fprintf(stderr, "ostraline: a handler failed: %s\n", failure.what());
+    try {
+      MsgBox(std::string("Run-time error: ") + failure.what(), MsgButtons::Ok, "Ostraline",
+             MsgIcon::Critical);
+    } catch (const std::exception&) {
+      // The box itself failed (no screen left): the report above stands.
+    }
   }
   --g_depth;
   if (g_depth > 0) return;

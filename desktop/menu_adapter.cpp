@@ -11,6 +11,7 @@ namespace ostraline {
 MenuAdapter::MenuAdapter(Menu& menu, QWidget& owner) : ControlAdapter(menu, nullptr) {
   if (menu.Items().empty()) {
     action_ = new QAction(&owner);
+    action_->setObjectName(ToQString(menu.FullName()));
     connect(action_, &QAction::triggered, this, [this] {
       Forward([this] {
         if (As<Menu>().Click) As<Menu>().Click();

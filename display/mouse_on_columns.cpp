@@ -135,6 +135,21 @@ Single PointerDepth(const BoreHoleSet& set, Single y) {
   return set.IsDuo && DuoScale == 2 ? MasterToDuo(y) : y;
 }
 
+namespace {
+
+void MouseDownAtPointer(BoreHoleSet& set, int Index, int Button, int Shift, Single X, Single Y) {
+  Single depth = 0;
+  try {
+    depth = PointerDepth(set, Y);
+  } catch (const RuntimeFailure&) {
+    // A pointer that the map between the scales cannot place finds no depth.
+    return;
+  }
+  MouseDownProcedure(set, Index, Button, Shift, X, depth);
+}
+
+}  // namespace
+
 void MouseMoveProcedure(BoreHoleSet& set, int Index, int /*Button*/, int /*Shift*/, Single X,
                         Single Y) {
   try {
@@ -175,7 +190,8 @@ void FrmMain::BoreHole_MouseMove(int index, int button, int shift, float x, floa
   SuspendTrinity = false;
   TargetLine(set, y);
   Screen.SetMousePointer(index == 5 ? 0 : 2);
-  if (!DividerOpen) MouseMoveProcedure(set, index, button, shift, x, PointerDepth(set, y));
+  // The procedure maps the pointer to the set's own scale itself.
+  if (!DividerOpen) MouseMoveProcedure(set, index, button, shift, x, y);
 }
 
 void FrmMain::BoreHole_MouseDown(int index, int button, int shift, float x, float y) {
@@ -200,7 +216,7 @@ void FrmMain::BoreHole_MouseDown(int index, int button, int shift, float x, floa
       MouseDownProcedure(set, index, 2, shift, x, CSng(Val(Text2.Text)));
     }
     SuppressPopup = false;
-    MouseDownProcedure(set, index, button, shift, x, PointerDepth(set, y));
+    MouseDownAtPointer(set, index, button, shift, x, y);
   }
   mnuCompCopy.Visible = false;
   break98.Visible = false;
@@ -225,7 +241,7 @@ void FrmMain::Picture1_MouseDown(int index, int button, int shift, float x, floa
   } else if (Screen.MousePointer() != 0) {
     // The cross shows a record under the pointer: the click acts as one on the composite column.
     ActionCount = 0;
-    MouseDownProcedure(set, 0, button, shift, x, PointerDepth(set, y));
+    MouseDownAtPointer(set, 0, button, shift, x, y);
   }
   set.DriveIndex = 5;
 }

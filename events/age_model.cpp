@@ -139,11 +139,12 @@ int HoleOfName(BoreHoleSet& set, const std::string& name) {
 
 // A hole of the Duo in the master's model is placed on the Duo's composite
 // scale and mapped to the master's.
-Variant CompositeOfRow(BoreHoleSet& set, int hole, const std::string& section, Single psp) {
+Variant CompositeOfRow(BoreHoleSet& set, const std::string& holeName, int hole,
+                       const std::string& section, Single psp) {
   if (set.IsDuo || hole <= 4)
     return CompositeFromTrinity(set, hole, SectionOrdinalByName(set, hole, section), psp);
   // The Duo's section lookup has no handler: a hole of neither set fails there.
-  if (hole > 8) Fail(FailureKind::SubscriptOutOfRange, "bore hole " + Str(hole) + " of no set");
+  if (hole > 8) Fail(FailureKind::SubscriptOutOfRange, "bore hole " + holeName);
   const int duoHole = hole - 4;
   const Variant duo =
       CompositeFromTrinity(duoSet, duoHole, SectionOrdinalByName(duoSet, duoHole, section), psp);
@@ -163,7 +164,8 @@ void PlaceControlPoints(BoreHoleSet& set, ImportProgress& progress) {
     }
     if (set.AgeModel(2, i) != "---" && set.AgeModel(3, i) != "---" && set.AgeModel(4, i) != "---") {
       const Variant composite =
-          CompositeOfRow(set, hole, set.AgeModel(3, i), CSng(Val(set.AgeModel(4, i))));
+          CompositeOfRow(set, set.AgeModel(2, i), hole, set.AgeModel(3, i),
+                         CSng(Val(set.AgeModel(4, i))));
       if (composite.ToDouble() != 9999) set.AgeModel(5, i) = Str(composite.ToSingle());
     }
     set.AgeModel(11, i) = CDToEFD(set, CSng(Val(set.AgeModel(5, i)))).ToText();

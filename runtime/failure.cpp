@@ -24,10 +24,21 @@ const char* FailureName(FailureKind kind) {
   return "Unknown failure";
 }
 
+namespace {
+FailureRecord lastFailure;
+}  // namespace
+
+const FailureRecord& LastFailure() {
+  return lastFailure;
+}
+
 RuntimeFailure::RuntimeFailure(FailureKind kind, std::string detail)
     : kind_(kind), detail_(std::move(detail)) {
   message_ = FailureName(kind);
   if (!detail_.empty()) message_ += ": " + detail_;
+  ++lastFailure.serial;
+  lastFailure.kind = kind;
+  lastFailure.detail = detail_;
 }
 
 void Fail(FailureKind kind, std::string detail) {

@@ -33,6 +33,16 @@ class RuntimeFailure : public std::exception {
 
 const char* FailureName(FailureKind kind);
 
+// The failure raised last, kept after its handler has caught it, so that a
+// caller who sees only the program's message can tell what went wrong.
+// Serial counts every failure raised since the program started.
+struct FailureRecord {
+  long serial = 0;
+  FailureKind kind = FailureKind::SubscriptOutOfRange;
+  std::string detail;
+};
+const FailureRecord& LastFailure();
+
 [[noreturn]] void Fail(FailureKind kind, std::string detail = {});
 
 }  // namespace ostraline

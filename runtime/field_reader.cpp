@@ -1,5 +1,6 @@
 #include "runtime/field_reader.h"
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <sstream>
@@ -22,16 +23,24 @@ void FieldReader::ConsumeLineEnd() {
     if (pos_ < content_.size() && content_[pos_] == '\n') ++pos_;
   } else if (pos_ < content_.size() && content_[pos_] == '\n') {
     ++pos_;
+  } else {
+    return;
   }
+  next_ = {next_.line + 1, 0};
 }
 
 FieldReader::Field FieldReader::Next() {
   const std::size_t n = content_.size();
   while (pos_ < n && (content_[pos_] == ' ' || content_[pos_] == '\t' || content_[pos_] == '\r' ||
                       content_[pos_] == '\n')) {
+    const bool lineEnd = content_[pos_] == '\n' ||
+                         (content_[pos_] == '\r' && (pos_ + 1 >= n || content_[pos_ + 1] != '\n'));
+    if (lineEnd) next_ = {next_.line + 1, 0};
     ++pos_;
   }
   if (pos_ >= n) Fail(FailureKind::InputPastEnd, "line " + std::to_string(Line()));
+  ++next_.field;
+  last_ = next_;
 
   Field field{{}, false};
   if (content_[pos_] == '"') {
@@ -43,6 +52,8 @@ FieldReader::Field FieldReader::Next() {
       return field;
     }
     field.text = content_.substr(pos_ + 1, close - pos_ - 1);
+    // A quoted field may hold line ends of its own.
+    next_.line += static_cast<long>(std::count(field.text.begin(), field.text.end(), '\n'));
     pos_ = close + 1;
     while (pos_ < n && content_[pos_] != ',' && content_[pos_] != '\r' && content_[pos_] != '\n') {
       ++pos_;
@@ -67,7 +78,14 @@ std::string FieldReader::ReadText() {
 }
 
 float FieldReader::ReadSingle() {
-  return CSng(Val(Next().text));
+  const Field field = Next();
+  try {
+    return CSng(Val(field.text));
+  } catch (const RuntimeFailure& failure) {
+    Fail(failure.Kind(), "line " + std::to_string(last_.line) + ", field " +
+                             std::to_string(last_.field) + ": '" + field.text +
+                             "' is beyond the range of a Single");
+  }
 }
 
 Variant FieldReader::ReadVariant() {

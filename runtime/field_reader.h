@@ -23,6 +23,13 @@ class FieldReader {
 
   // Where the reader stands, for messages beyond the program's own texts.
   long Line() const;
+  // Where the field read last began: its line and its place on that line,
+  // both counted from 1.
+  struct Place {
+    long line = 0;
+    int field = 0;
+  };
+  Place LastPlace() const { return last_; }
 
  private:
   struct Field {
@@ -34,6 +41,8 @@ class FieldReader {
 
   std::string content_;
   std::size_t pos_ = 0;
+  Place next_{1, 0};
+  Place last_;
 };
 
 // Writing a data file: fields separated by commas, text in double quotes,

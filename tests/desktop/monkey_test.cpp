@@ -18,6 +18,7 @@
 #include <QSlider>
 #include <QTest>
 #include <QTimer>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <random>
@@ -80,10 +81,29 @@ class Monkey : public ShellTest {
   // What the last step did, for the report of a failing walk.
   std::string last;
 
+  // The control's name, or its combo's for the box inside a combo.
+  static std::string ControlName(const QWidget* widget) {
+    if (widget->objectName().isEmpty() && widget->parentWidget() != nullptr)
+      return widget->parentWidget()->objectName().toStdString();
+    return widget->objectName().toStdString();
+  }
+
   static std::string Name(const QWidget* widget) {
-    return widget->window()->windowTitle().toStdString() + " / " + std::to_string(widget->x()) +
-           "," + std::to_string(widget->y()) + " " + widget->objectName().toStdString() + " (" +
+    return widget->window()->windowTitle().toStdString() + " / " + ControlName(widget) + " (" +
            widget->metaObject()->className() + ")";
+  }
+
+  // The view's search by the trinity has no trap: a section that is not
+  // there (typed into the section boxes, or left there under a bore hole
+  // typed that is not) ends in the run-time's error box when the boxes, the
+  // PSP, the depth axis or the opening Duo search with it. No other event may
+  // let a failure through.
+  static bool UntrappedByDesign(const std::string& event) {
+    for (const char* box : {"/ Combo1 (", "/ Combo2 (", "/ Combo5 (", "/ Text1 (", "/ Option2(",
+                            "/ mnuOLDuo"}) {
+      if (event.find(box) != std::string::npos) return true;
+    }
+    return false;
   }
 
   void Type(QLineEdit* box) {
@@ -141,7 +161,8 @@ class Monkey : public ShellTest {
         if (!entries.empty()) {
           QAction* entry = entries[Pick(entries.size())];
           last =
-              "menu " + entry->text().toStdString() + " on " + window->windowTitle().toStdString();
+              "menu " + entry->text().toStdString() + " on " + window->windowTitle().toStdString() +
+              " / " + entry->objectName().toStdString();
           entry->trigger();
         }
         break;
@@ -175,7 +196,8 @@ class Monkey : public ShellTest {
         } else if (window != WindowOf(*frmMain)) {
           window->close();
         } else if (frmMain->mnuOLDuo.Enabled) {
-          frmMain->mnuOLDuo.Click();
+          last = "menu Open Ostraline Duo / mnuOLDuo";
+          ForwardEvent([] { frmMain->mnuOLDuo.Click(); });
         }
         break;
     }
@@ -212,11 +234,10 @@ TEST_F(Monkey, ThousandsOfRandomEventsCrashAndHangNothing) {
   });
   popups.start(5);
 
-  // A failure that the Parts leave to the run-time's error report (a section
-  // ordinal beyond the bore hole's sections, say) is reported on standard
-  // error by the shell and the program goes on; the walk lists them.
   long escapes = EscapedFailures();
   constexpr int kEvents = 3000;
+  // Longer than a user waits without a word: told, so that it can be looked at.
+  constexpr double kSlowEvent = 2.0;
   int done = 0;
   int givenBack = 0;
   for (int event = 0; event < kEvents; ++event) {
@@ -234,13 +255,20 @@ TEST_F(Monkey, ThousandsOfRandomEventsCrashAndHangNothing) {
       QApplication::processEvents();
       continue;
     }
+    const auto started = std::chrono::steady_clock::now();
     Act(windows[Pick(windows.size())]);
     ++done;
     QApplication::processEvents();
+    const double seconds =
+        std::chrono::duration<double>(std::chrono::steady_clock::now() - started).count();
+    if (seconds > kSlowEvent) {
+      std::fprintf(stderr, "monkey: event %d, %s: took %.1f s\n", event, last.c_str(), seconds);
+    }
     if (EscapedFailures() != escapes) {
       escapes = EscapedFailures();
-      std::fprintf(stderr, "monkey: event %d, %s: a failure reached the run-time's report\n", event,
-                   last.c_str());
+      std::fprintf(stderr, "monkey: event %d, %s: a failure reached the run-time's error box\n",
+                   event, last.c_str());
+      EXPECT_TRUE(UntrappedByDesign(last)) << "event " << event << ": " << last;
     }
     ASSERT_TRUE(frmMain.IsLoaded()) << "event " << event << ": " << last;
   }
