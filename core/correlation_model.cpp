@@ -89,11 +89,16 @@ void ReadMasterRows(BoreHoleSet& set, FieldReader& file) {
 
 }  // namespace
 
-void DimensionModel(BoreHoleSet& set) {
+FieldReader OpenModelFile(BoreHoleSet& set, MainForm& form, Label& versionLabel, bool& fileOpen) {
+  FieldReader file = OpenDataFile(form, fileOpen);
+  set.ModelVersion = VersionDate(form.CommonDialog1.FileName);
+  versionLabel.Caption = set.ModelVersion;
+  form.Caption = form.Caption + "   [" + FileStem(form.CommonDialog1.FileName) + "]";
   // The Duo's tables have no Scale for ages.
   const long lastScale = set.IsDuo ? 2 : 3;
   set.ModelCell.Dim({{0, lastScale}, {0, 5}, {0, 2}, {0, 5000}});
   set.TieCell.Dim({{0, lastScale}, {0, 5000}});
+  return file;
 }
 
 void ReadDuoRows(BoreHoleSet& set, FieldReader& file) {
@@ -207,11 +212,7 @@ void SweepModelDepths(BoreHoleSet& set, MainForm& form) {
 void FrmMain::Command1_Click() {
   bool fileOpen = false;
   try {
-    FieldReader file = OpenDataFile(*this, fileOpen);
-    ModelVersion = VersionDate(CommonDialog1.FileName);
-    frmVersion->Label2(1).Caption = ModelVersion;
-    Caption = Caption + "   [" + FileStem(CommonDialog1.FileName) + "]";
-    DimensionModel(masterSet);
+    FieldReader file = OpenModelFile(masterSet, *this, frmVersion->Label2(1), fileOpen);
     ReadMasterRows(masterSet, file);
     TidyModel(masterSet, *this, kMasterHoleNames);
     SweepSections(masterSet, *this);

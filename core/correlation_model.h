@@ -9,10 +9,13 @@
 
 namespace ostraline {
 
+class Label;
 class MainForm;
 
-// The tables dimensioned for a model of up to 5000 rows.
-void DimensionModel(BoreHoleSet& set);
+// The model's file opened from the form's dialog, its version shown on the
+// version form's label and its name added to the form's caption, and the
+// tables dimensioned for a model of up to 5000 rows.
+FieldReader OpenModelFile(BoreHoleSet& set, MainForm& form, Label& versionLabel, bool& fileOpen);
 // The Duo's layout: every row, the header too, with its four master fields.
 void ReadDuoRows(BoreHoleSet& set, FieldReader& file);
 // The prefixes dropped, the cells trimmed, the bore holes named by the header.

@@ -190,45 +190,48 @@ void FrmDivider::Form_MouseMove(int /*button*/, int /*shift*/, float /*x*/, floa
   Combo1_GotFocus();
 }
 
-// Equal sampling positions, or equal levels, divide by zero: the fields stay.
-void FrmDivider::Text1_Change() {
-  BoreHoleSet& set = SetOfTwin(*this);
+namespace {
+
+// A change of the divider's fields drives the main form (DrivenBy 8) while
+// it runs on the two sampling positions. Equal sampling positions, or equal
+// levels, divide by zero: the fields stay.
+template <class Body>
+void WithSamplingPositions(FrmDivider& form, Body body) {
+  BoreHoleSet& set = SetOfTwin(form);
   set.DrivenBy = 8;
   try {
     double s0 = 0;
     double s1 = 0;
-    if (SamplingPositions(*this, s0, s1)) {
-      if (Option1.Value) {
-        const Single a = LevelAbovePSP;
-        const Single t = TargetLevelPSP;
-        const Single b = LevelBelowPSP;
-        // Beyond the two levels the sampling offset runs on in centimetres.
-        const double ratio =
-            a <= t && t <= b ? ::ostraline::Divide(s1 - s0, static_cast<Single>(b - a)) : 1.0;
-        const Single offset = t - a;
-        Label1.Caption = Str(Round(s0 + offset * ratio, DepthPrecision));
-      } else {
-        MoveTargetToSampling(*this, s0, s1);
-      }
-    }
+    if (SamplingPositions(form, s0, s1)) body(s0, s1);
   } catch (const RuntimeFailure&) {
   }
   set.DrivenBy = 0;
 }
 
-void FrmDivider::Text2_Change() {
-  BoreHoleSet& set = SetOfTwin(*this);
-  set.DrivenBy = 8;
-  try {
-    double s0 = 0;
-    double s1 = 0;
-    if (SamplingPositions(*this, s0, s1)) {
+}  // namespace
+
+void FrmDivider::Text1_Change() {
+  WithSamplingPositions(*this, [this](double s0, double s1) {
+    if (!Option1.Value) {
       MoveTargetToSampling(*this, s0, s1);
-      Arrange(*this, Val(Text2.Text.Get()), s0, s1);
+      return;
     }
-  } catch (const RuntimeFailure&) {
-  }
-  set.DrivenBy = 0;
+    const Single a = LevelAbovePSP;
+    const Single t = TargetLevelPSP;
+    const Single b = LevelBelowPSP;
+    // Beyond the two levels the sampling offset runs on in centimetres.
+    const double ratio =
+        a <= t && t <= b ? ::ostraline::Divide(s1 - s0, static_cast<Single>(b - a)) : 1.0;
+    const Single offset = t - a;
+    Label1.Caption = Str(Round(s0 + offset * ratio, DepthPrecision));
+  });
+}
+
+void FrmDivider::Text2_Change() {
+  WithSamplingPositions(*this, [this](double s0, double s1) {
+    MoveTargetToSampling(*this, s0, s1);
+    Arrange(*this, Val(Text2.Text.Get()), s0, s1);
+  });
 }
 
 void FrmDivider::Option1_Click() {

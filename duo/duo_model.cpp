@@ -74,11 +74,7 @@ void Frm2Main::Command1_Click() {
   bool fileOpen = false;
   bool rowsRead = false;
   try {
-    FieldReader file = OpenDataFile(*this, fileOpen);
-    ModelVersion2 = VersionDate(CommonDialog1.FileName);
-    frm2Version->Label2(1).Caption = ModelVersion2;
-    Caption = Caption + "   [" + FileStem(CommonDialog1.FileName) + "]";
-    DimensionModel(duoSet);
+    FieldReader file = OpenModelFile(duoSet, *this, frm2Version->Label2(1), fileOpen);
     MasterTrinity.Dim({{0, 3}, {0, 5000}});
     ReadDuoRows(duoSet, file);
     rowsRead = true;
