@@ -7,11 +7,9 @@
 #include <string>
 
 #include "forms/controls.h"
+#include "forms/picture_geometry.h"
 
 namespace ostraline {
-
-// 1440 twips to the inch at 96 logical pixels to the inch.
-constexpr float kTwipsPerPixel = 15.0f;
 
 inline int ToPixels(float twips) {
   return qRound(twips / kTwipsPerPixel);

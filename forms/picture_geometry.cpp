@@ -8,7 +8,6 @@ namespace ostraline {
 double TwipsToPixels(float twips) {
   // In single precision, as the operations are recorded, so that a pixel
   // edge computes the same wherever it is asked for.
-  constexpr float kTwipsPerPixel = 15.0f;
   return twips / kTwipsPerPixel;
 }
 

@@ -24,6 +24,7 @@ struct PixelBounds {
 };
 
 // 1440 twips to the inch at 96 logical pixels to the inch.
+inline constexpr float kTwipsPerPixel = 15.0f;
 double TwipsToPixels(float twips);
 
 // The whole device pixels of an image that holds a picture's width or height.

@@ -9,6 +9,7 @@
 #include "forms/frm3_photo.h"
 #include "forms/frm4_photo.h"
 #include "forms/frm_main.h"
+#include "forms/picture_geometry.h"
 #include "forms/platform.h"
 
 namespace ostraline {
@@ -19,7 +20,6 @@ constexpr const char* kPhotoFilter = "Jpeg(*.jpg)|*.jpg|Bitmap(*.bmp)|*.bmp|All(
 constexpr float kFrameAcross = 405;
 constexpr float kFrameDown = 120;
 constexpr float kGap = 60;
-constexpr float kTwipsPerPixel = 15;
 
 // The name with its extension: what follows the last folder separator.
 std::string TitleOf(const std::string& path) {
