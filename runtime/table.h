@@ -1,6 +1,7 @@
 #pragma once
 // Tables with explicit bounds per dimension. Reading or writing outside the
 // bounds, or in a table never dimensioned, is a subscript failure.
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <deque>
@@ -23,6 +24,37 @@ inline unsigned long long NextTableRevision() {
 struct Bounds {
   long lo;
   long hi;
+};
+
+// Cells in blocks of a fixed count. A table grown row by row, as the data
+// file of a batch conversion is, never moves the cells it holds and never
+// keeps an old and a new copy of them at once: only its last block grows.
+template <class T>
+class CellBlocks {
+ public:
+  void clear() { blocks_.clear(); }
+  // Cells past the new count go; new ones are default-constructed.
+  void resize(std::size_t count) {
+    const std::size_t oldBlocks = blocks_.size();
+    const std::size_t newBlocks = (count + kBlockCells - 1) / kBlockCells;
+    blocks_.resize(newBlocks);
+    // Only the old last block and the new ones change size.
+    const std::size_t kept = std::min(oldBlocks, newBlocks);
+    for (std::size_t b = kept > 0 ? kept - 1 : 0; b < newBlocks; ++b) {
+      std::vector<T>& block = blocks_[b];
+      const std::size_t cells = std::min(kBlockCells, count - b * kBlockCells);
+      // Doubling, as a vector grows, but never past a block.
+      if (cells > block.capacity())
+        block.reserve(std::min(kBlockCells, std::max(cells, 2 * block.capacity())));
+      block.resize(cells);
+    }
+  }
+  T& operator[](std::size_t i) { return blocks_[i / kBlockCells][i % kBlockCells]; }
+  const T& operator[](std::size_t i) const { return blocks_[i / kBlockCells][i % kBlockCells]; }
+
+ private:
+  static constexpr std::size_t kBlockCells = 16384;
+  std::vector<std::vector<T>> blocks_;
 };
 
 template <class T, int Rank = 1>
@@ -157,7 +189,7 @@ class Table {
   unsigned long long revision_ = NextTableRevision();
   std::vector<unsigned long long> sliceRevision_;
   // vector<bool> hands out no references; a deque of bool does.
-  std::conditional_t<std::is_same_v<T, bool>, std::deque<bool>, std::vector<T>> data_;
+  std::conditional_t<std::is_same_v<T, bool>, std::deque<bool>, CellBlocks<T>> data_;
 };
 
 }  // namespace ostraline

@@ -2,29 +2,40 @@
 // The variant of the program's language: empty, a whole number, a float, a
 // double or text. Empty reads as 0 and as "".
 #include <cstdint>
+#include <cstring>
 #include <string>
-#include <variant>
+#include <string_view>
+#include <type_traits>
 
 #include "runtime/checked_int.h"
 
 namespace ostraline {
 
+// A batch conversion holds a million rows of six of these, so a value takes
+// 16 bytes: the number or a short text inline, a longer text on the heap.
 class Variant {
  public:
-  Variant() = default;
-  Variant(int value) : value_(static_cast<std::int32_t>(value)) {}
-  Variant(Integer value) : value_(static_cast<std::int32_t>(value.Get())) {}
-  Variant(Long value) : value_(static_cast<std::int32_t>(value.Get())) {}
-  Variant(float value) : value_(value) {}
-  Variant(double value) : value_(value) {}
-  Variant(std::string value) : value_(std::move(value)) {}
-  Variant(const char* value) : value_(std::string(value)) {}
+  Variant() noexcept = default;
+  Variant(int value) noexcept : kind_(Kind::Whole) { Put(static_cast<std::int32_t>(value)); }
+  Variant(Integer value) noexcept : Variant(static_cast<int>(value.Get())) {}
+  Variant(Long value) noexcept : Variant(static_cast<int>(value.Get())) {}
+  Variant(float value) noexcept : kind_(Kind::Single) { Put(value); }
+  Variant(double value) noexcept : kind_(Kind::Double) { Put(value); }
+  Variant(std::string value) { SetText(value); }
+  Variant(const char* value) : Variant(std::string(value)) {}
 
-  bool IsEmpty() const { return std::holds_alternative<std::monostate>(value_); }
-  bool IsText() const { return std::holds_alternative<std::string>(value_); }
-  bool IsWhole() const { return std::holds_alternative<std::int32_t>(value_); }
-  bool IsSingle() const { return std::holds_alternative<float>(value_); }
-  bool IsDouble() const { return std::holds_alternative<double>(value_); }
+  Variant(const Variant& other);
+  // A text moved from is left as empty text, a number as it was.
+  Variant(Variant&& other) noexcept;
+  Variant& operator=(const Variant& other);
+  Variant& operator=(Variant&& other) noexcept;
+  ~Variant() { Release(); }
+
+  bool IsEmpty() const { return kind_ == Kind::Empty; }
+  bool IsText() const { return kind_ == Kind::ShortText || kind_ == Kind::LongText; }
+  bool IsWhole() const { return kind_ == Kind::Whole; }
+  bool IsSingle() const { return kind_ == Kind::Single; }
+  bool IsDouble() const { return kind_ == Kind::Double; }
   bool IsNumber() const { return IsWhole() || IsSingle() || IsDouble(); }
 
   // As a number: text must read as one (else a type mismatch), empty is 0.
@@ -34,10 +45,43 @@ class Variant {
   // As text: numbers by Str at their own precision, empty as "".
   std::string ToText() const;
 
-  friend bool operator==(const Variant& a, const Variant& b) = default;
+  // Equal only in the same kind: a whole 1 is not a double 1, and a NaN is
+  // equal to nothing.
+  friend bool operator==(const Variant& a, const Variant& b);
 
  private:
-  std::variant<std::monostate, std::int32_t, float, double, std::string> value_;
+  enum class Kind : unsigned char { Empty, Whole, Single, Double, ShortText, LongText };
+  static constexpr std::size_t kShortText = 14;
+
+  // The payload is read and written through memcpy: the same bytes hold a
+  // number, a short text or the address of a long one.
+  template <class T>
+  T Get() const {
+    T value;
+    std::memcpy(&value, bytes_, sizeof value);
+    return value;
+  }
+  template <class T>
+  void Put(T value) {
+    std::memcpy(bytes_, &value, sizeof value);
+  }
+
+  void SetText(std::string_view text);
+  std::string_view Text() const;
+  // Frees a long text; the bytes are left for the caller to overwrite.
+  void Release() noexcept;
+  void TakeBytes(const Variant& other) noexcept;
+  // The long text's block has gone to another variant: this one forgets it.
+  void LeaveMovedFrom() noexcept;
+
+  alignas(8) char bytes_[kShortText] = {};
+  unsigned char shortSize_ = 0;
+  Kind kind_ = Kind::Empty;
 };
+
+static_assert(sizeof(Variant) == 16);
+// A table's block grows by moving its cells, which a throwing move would turn
+// into copies.
+static_assert(std::is_nothrow_move_constructible_v<Variant>);
 
 }  // namespace ostraline
