@@ -30,11 +30,6 @@ constexpr const char* kSamplesAddress = "https://www.ostraline.org/samples";
 // written back bare.
 using FirstRecords = std::array<std::string, 8>;
 
-// The second field of the second record is a number only in a value file;
-// it has to print back as itself, so "12.50" makes a file of positions.
-bool IsValueFile(const FirstRecords& first) {
-  return Str(Val(first[5])) == first[5];
-}
 
 void ReadPositionFile(BoreHoleSet& set, MainForm& form, FieldReader& file,
                       const FirstRecords& first) {
@@ -91,6 +86,10 @@ void ReadValueFile(BoreHoleSet& set, MainForm& form, FieldReader& file, const Fi
 
 }  // namespace
 
+bool IsValueFileCell(const std::string& cell) {
+  return Str(Val(cell)) == cell;
+}
+
 BoreHoleSet& SetOf(const FrmConversion& form) {
   return form.ForDuo() ? duoSet : masterSet;
 }
@@ -118,7 +117,7 @@ void ConvertFromDataFile(BoreHoleSet& set, MainForm& form) {
     FieldReader file = FieldReader::Open(form.CommonDialog1.FileName);
     FirstRecords first;
     for (std::string& field : first) field = file.ReadText();
-    if (IsValueFile(first)) {
+    if (IsValueFileCell(first[5])) {
       ReadValueFile(set, form, file, first);
     } else {
       ReadPositionFile(set, form, file, first);

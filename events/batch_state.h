@@ -2,6 +2,7 @@
 // The data file of a batch conversion as it was read, and the scales chosen
 // on frmConversion: module-level tables of the events and ages subsystem.
 #include <cstdint>
+#include <string>
 
 #include "runtime/checked_int.h"
 #include "runtime/table.h"
@@ -36,6 +37,11 @@ struct BatchState {
   Integer FromKind = 0;
   Integer ToMask = 0;
 };
+
+// The second field of a data file's second record makes it a file of values
+// only when it is a number that prints back as itself: "12.50" makes a file
+// of positions.
+bool IsValueFileCell(const std::string& cell);
 
 inline BatchState batchState;
 

@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <vector>
 
+#include "events/batch_state.h"
 #include "runtime/field_reader.h"
 #include "runtime/number_text.h"
 
@@ -41,7 +42,7 @@ std::size_t FieldsPerRecord(ImportedFile kind, const std::vector<ScannedField>& 
     case ImportedFile::VarveCounts:
       return 2;
     case ImportedFile::DataFile:
-      return fields.size() > 5 && Str(Val(fields[5].text)) == fields[5].text ? 2 : 4;
+      return fields.size() > 5 && IsValueFileCell(fields[5].text) ? 2 : 4;
   }
   return 1;
 }
@@ -123,9 +124,9 @@ std::string Explain(ImportedFile kind, const std::vector<ScannedField>& fields,
 // Warnings of one kind: the first few in full, then how many more.
 class WarningList {
  public:
-  explicit WarningList(std::vector<std::string>& out) : out_(out) {}
+  WarningList(std::vector<std::string>& out, const char* what) : out_(out), what_(what) {}
   ~WarningList() {
-    if (more_ > 0) out_.push_back("and " + std::to_string(more_) + " more of the same kind");
+    if (more_ > 0) out_.push_back("and " + std::to_string(more_) + " more " + what_);
   }
   void Add(const std::string& warning) {
     if (++count_ <= kShown) {
@@ -138,46 +139,60 @@ class WarningList {
  private:
   static constexpr int kShown = 5;
   std::vector<std::string>& out_;
+  const char* what_;
   int count_ = 0;
   int more_ = 0;
 };
 
-void WarnOfLongRows(const std::vector<ScannedField>& fields, std::vector<std::string>& out) {
-  WarningList warnings(out);
-  for (std::size_t i = 0; i < fields.size(); ++i) {
-    const bool lastOfLine = i + 1 == fields.size() || fields[i + 1].place.line != fields[i].place.line;
-    if (lastOfLine && fields[i].place.field > 4) {
-      warnings.Add("line " + std::to_string(fields[i].place.line) + " has " +
-                   std::to_string(fields[i].place.field) +
-                   " fields: a file of positions has four to a row, and the fields beyond run "
-                   "on into the rows that follow");
-    }
-  }
-}
-
 }  // namespace
 
 std::vector<std::string> DataFileWarnings(const std::string& path) {
-  const std::vector<ScannedField> fields = ScanFields(path);
   std::vector<std::string> out;
-  const std::size_t perRecord = FieldsPerRecord(ImportedFile::DataFile, fields);
-  if (perRecord == 4 && fields.size() > 5 && IsNumeric(fields[5].text)) {
-    out.push_back(At(fields[5].place) + ": '" + fields[5].text +
-                  "' is not written as a plain number, so the file was read as a file of "
-                  "positions, not of values");
-  }
-  if (perRecord == 4) WarnOfLongRows(fields, out);
-  {
-    // The PSP is the fourth field of a position, the value the second of a value.
-    WarningList warnings(out);
-    const char* what = perRecord == 4 ? "PSP '" : "value '";
-    for (std::size_t i = 2 * perRecord - 1; i < fields.size(); i += perRecord) {
-      const std::string& text = fields[i].text;
-      if (!IsNumeric(text)) {
-        warnings.Add(At(fields[i].place) + ": " + what + text + "' is no number and reads as " +
-                     Trim(Str(Val(text))));
-      }
+  // Read field by field, as the file may hold millions of rows beside the
+  // table that was made of it.
+  try {
+    FieldReader file = FieldReader::Open(path);
+    std::vector<ScannedField> first;
+    while (first.size() < 6 && !file.Eof()) {
+      std::string text = file.ReadText();
+      first.push_back({std::move(text), file.LastPlace()});
     }
+    if (first.size() < 6) return out;
+    const bool positions = !IsValueFileCell(first[5].text);
+    const std::size_t perRecord = positions ? 4 : 2;
+    if (positions && IsNumeric(first[5].text)) {
+      out.push_back(At(first[5].place) + ": '" + first[5].text +
+                    "' is not written as a plain number, so the file was read as a file of "
+                    "positions, not of values");
+    }
+    WarningList longRows(out, "rows of more than four fields");
+    WarningList noNumbers(out, positions ? "PSPs that are no number" : "values that are no number");
+    ScannedField last;
+    auto visit = [&](std::size_t index, const ScannedField& field) {
+      if (positions && index > 0 && field.place.line != last.place.line && last.place.field > 4) {
+        longRows.Add("line " + std::to_string(last.place.line) + " has " +
+                     std::to_string(last.place.field) +
+                     " fields: a file of positions has four to a row, and the fields beyond run "
+                     "on into the rows that follow");
+      }
+      // The PSP is the fourth field of a position, the value the second of a value.
+      if (index >= perRecord && index % perRecord == perRecord - 1 && !IsNumeric(field.text)) {
+        noNumbers.Add(At(field.place) + ": " + (positions ? "PSP '" : "value '") + field.text +
+                      "' is no number and reads as " + Trim(Str(Val(field.text))));
+      }
+      last = field;
+    };
+    std::size_t index = 0;
+    for (const ScannedField& field : first) visit(index++, field);
+    while (!file.Eof()) {
+      ScannedField field;
+      field.text = file.ReadText();
+      field.place = file.LastPlace();
+      visit(index++, field);
+    }
+    if (positions && last.place.field > 4) visit(index, {{}, {last.place.line + 1, 1}});
+  } catch (const RuntimeFailure&) {
+    // The end of a file of blanks: what was read has been looked at.
   }
   for (std::string& warning : out) warning = Printable(path + ": " + warning);
   return out;
