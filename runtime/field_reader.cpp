@@ -2,26 +2,57 @@
 
 #include <algorithm>
 #include <fstream>
-#include <iterator>
-#include <sstream>
 
 #include "runtime/number_text.h"
 
 namespace ostraline {
 
-FieldReader FieldReader::Open(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  if (!in) Fail(FailureKind::FileNotFound, path);
-  std::ostringstream buffer;
-  buffer << in.rdbuf();
-  return FieldReader(buffer.str());
+FieldReader FieldReader::Open(const std::string& path, std::size_t chunk) {
+  auto in = std::make_shared<std::ifstream>(path, std::ios::binary);
+  if (!*in) Fail(FailureKind::FileNotFound, path);
+  FieldReader reader{std::string()};
+  reader.file_ = std::move(in);
+  reader.chunk_ = std::max<std::size_t>(chunk, 1);
+  return reader;
 }
 
+bool FieldReader::ReadOn(std::size_t i) {
+  while (file_ && i >= content_.size()) {
+    const std::size_t had = content_.size();
+    content_.resize(had + chunk_);
+    file_->read(content_.data() + had, static_cast<std::streamsize>(chunk_));
+    content_.resize(had + static_cast<std::size_t>(file_->gcount()));
+    if (content_.size() == had) file_.reset();
+  }
+  return i < content_.size();
+}
+
+void FieldReader::DropRead() {
+  if (!file_ || pos_ < chunk_) return;
+  // A carriage return stays: whether it ends a line alone is told by what follows.
+  const std::size_t drop = content_[pos_ - 1] == '\r' ? pos_ - 1 : pos_;
+  linesDropped_ += LineEndsBefore(drop);
+  content_.erase(0, drop);
+  pos_ -= drop;
+}
+
+namespace {
+
+bool IsBlank(char c) {
+  return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
+bool EndsField(char c) {
+  return c == ',' || c == '\r' || c == '\n';
+}
+
+}  // namespace
+
 void FieldReader::ConsumeLineEnd() {
-  if (pos_ < content_.size() && content_[pos_] == '\r') {
+  if (Has(pos_) && content_[pos_] == '\r') {
     ++pos_;
-    if (pos_ < content_.size() && content_[pos_] == '\n') ++pos_;
-  } else if (pos_ < content_.size() && content_[pos_] == '\n') {
+    if (Has(pos_) && content_[pos_] == '\n') ++pos_;
+  } else if (Has(pos_) && content_[pos_] == '\n') {
     ++pos_;
   } else {
     return;
@@ -30,42 +61,42 @@ void FieldReader::ConsumeLineEnd() {
 }
 
 FieldReader::Field FieldReader::Next() {
-  const std::size_t n = content_.size();
-  while (pos_ < n && (content_[pos_] == ' ' || content_[pos_] == '\t' || content_[pos_] == '\r' ||
-                      content_[pos_] == '\n')) {
+  DropRead();
+  while (Has(pos_) && IsBlank(content_[pos_])) {
     const bool lineEnd = content_[pos_] == '\n' ||
-                         (content_[pos_] == '\r' && (pos_ + 1 >= n || content_[pos_ + 1] != '\n'));
+                         (content_[pos_] == '\r' && !(Has(pos_ + 1) && content_[pos_ + 1] == '\n'));
     if (lineEnd) next_ = {next_.line + 1, 0};
     ++pos_;
   }
-  if (pos_ >= n) Fail(FailureKind::InputPastEnd, "line " + std::to_string(Line()));
+  if (!Has(pos_)) Fail(FailureKind::InputPastEnd, "line " + std::to_string(Line()));
   ++next_.field;
   last_ = next_;
 
   Field field{{}, false};
   if (content_[pos_] == '"') {
     field.quoted = true;
-    const std::size_t close = content_.find('"', pos_ + 1);
+    std::size_t close = content_.find('"', pos_ + 1);
+    while (close == std::string::npos) {
+      const std::size_t searched = content_.size();
+      if (!ReadOn(searched)) break;
+      close = content_.find('"', searched);
+    }
     if (close == std::string::npos) {
       field.text = content_.substr(pos_ + 1);
-      pos_ = n;
+      pos_ = content_.size();
       return field;
     }
     field.text = content_.substr(pos_ + 1, close - pos_ - 1);
     // A quoted field may hold line ends of its own.
     next_.line += static_cast<long>(std::count(field.text.begin(), field.text.end(), '\n'));
     pos_ = close + 1;
-    while (pos_ < n && content_[pos_] != ',' && content_[pos_] != '\r' && content_[pos_] != '\n') {
-      ++pos_;
-    }
+    while (Has(pos_) && !EndsField(content_[pos_])) ++pos_;
   } else {
     const std::size_t start = pos_;
-    while (pos_ < n && content_[pos_] != ',' && content_[pos_] != '\r' && content_[pos_] != '\n') {
-      ++pos_;
-    }
+    while (Has(pos_) && !EndsField(content_[pos_])) ++pos_;
     field.text = content_.substr(start, pos_ - start);
   }
-  if (pos_ < n && content_[pos_] == ',') {
+  if (Has(pos_) && content_[pos_] == ',') {
     ++pos_;
   } else {
     ConsumeLineEnd();
@@ -96,14 +127,18 @@ Variant FieldReader::ReadVariant() {
   return Variant(std::move(field.text));
 }
 
-long FieldReader::Line() const {
-  long line = 1;
-  for (std::size_t i = 0; i < pos_ && i < content_.size(); ++i) {
+long FieldReader::LineEndsBefore(std::size_t end) const {
+  long ends = 0;
+  for (std::size_t i = 0; i < end && i < content_.size(); ++i) {
     const bool crAlone =
         content_[i] == '\r' && (i + 1 >= content_.size() || content_[i + 1] != '\n');
-    if (content_[i] == '\n' || crAlone) ++line;
+    if (content_[i] == '\n' || crAlone) ++ends;
   }
-  return line;
+  return ends;
+}
+
+long FieldReader::Line() const {
+  return 1 + linesDropped_ + LineEndsBefore(pos_);
 }
 
 void FieldWriter::Separate() {

@@ -2,6 +2,8 @@
 // Reading a data file field by field: the reader does not care where lines
 // end, so a row's layout is only the number of fields asked for.
 #include <cstddef>
+#include <istream>
+#include <memory>
 #include <string>
 
 #include "runtime/variant.h"
@@ -11,15 +13,17 @@ namespace ostraline {
 class FieldReader {
  public:
   explicit FieldReader(std::string content) : content_(std::move(content)) {}
-  // Fails with FileNotFound when the file cannot be opened for input.
-  static FieldReader Open(const std::string& path);
+  // Fails with FileNotFound when the file cannot be opened for input. The
+  // file is read a chunk at a time, so that a file of millions of rows
+  // never lies in memory whole.
+  static FieldReader Open(const std::string& path, std::size_t chunk = 1 << 20);
 
   std::string ReadText();
   float ReadSingle();
   Variant ReadVariant();
 
   // True only when nothing at all is left: the test between rows.
-  bool Eof() const { return pos_ >= content_.size(); }
+  bool Eof() { return !Has(pos_); }
 
   // Where the reader stands, for messages beyond the program's own texts.
   long Line() const;
@@ -38,9 +42,19 @@ class FieldReader {
   };
   Field Next();
   void ConsumeLineEnd();
+  // Whether the text holds position i, reading on in the file if it must.
+  bool Has(std::size_t i) { return i < content_.size() || ReadOn(i); }
+  bool ReadOn(std::size_t i);
+  // Drops the text read before the field about to begin.
+  void DropRead();
+  long LineEndsBefore(std::size_t end) const;
 
   std::string content_;
   std::size_t pos_ = 0;
+  // The file behind content_ while it is read a chunk at a time.
+  std::shared_ptr<std::istream> file_;
+  std::size_t chunk_ = 0;
+  long linesDropped_ = 0;
   Place next_{1, 0};
   Place last_;
 };

@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -144,6 +145,40 @@ TEST(FieldReaderTest, openReadsTheFileAsItIs) {
   EXPECT_EQ(reader.ReadText(), std::string("\0y", 2));
   EXPECT_EQ(reader.ReadSingle(), 2.0f);
   EXPECT_TRUE(reader.Eof());
+  std::filesystem::remove(path);
+}
+
+// A file read a chunk at a time gives what the whole text gives: every field,
+// its place, the end-of-file test and the line of a failure, whatever the
+// size of the chunks and wherever they cut a field or a line end.
+TEST(FieldReaderTest, aFileReadInChunksReadsAsTheWholeText) {
+  const std::filesystem::path path =
+      std::filesystem::path(testing::TempDir()) / "field_reader_chunks_test.csv";
+  std::mt19937 draw(20261123);
+  const char alphabet[] = {'a', '1', '.', ',', ',', '"', ' ', '\t', '\r', '\n', '\n'};
+  for (int round = 0; round < 300; ++round) {
+    std::string content;
+    const int length = static_cast<int>(draw() % 60);
+    for (int i = 0; i < length; ++i) content += alphabet[draw() % sizeof alphabet];
+    std::ofstream(path, std::ios::binary) << content;
+    for (std::size_t chunk : {1u, 2u, 3u, 7u}) {
+      FieldReader whole(content);
+      FieldReader chunked = FieldReader::Open(path.string(), chunk);
+      while (true) {
+        ASSERT_EQ(whole.Eof(), chunked.Eof()) << content;
+        std::string wholeText;
+        std::string chunkedText;
+        const auto wholeField = FailureOf([&] { wholeText = whole.ReadText(); });
+        const auto chunkedField = FailureOf([&] { chunkedText = chunked.ReadText(); });
+        ASSERT_EQ(wholeField, chunkedField) << content;
+        ASSERT_EQ(wholeText, chunkedText) << content << " chunk " << chunk;
+        ASSERT_EQ(whole.Line(), chunked.Line()) << content << " chunk " << chunk;
+        if (wholeField) break;
+        ASSERT_EQ(whole.LastPlace().line, chunked.LastPlace().line) << content;
+        ASSERT_EQ(whole.LastPlace().field, chunked.LastPlace().field) << content;
+      }
+    }
+  }
   std::filesystem::remove(path);
 }
 
