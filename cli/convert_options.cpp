@@ -70,12 +70,17 @@ ParsedCommandLine ParseCommandLine(const std::vector<std::string>& args) {
     if (name == "--help" || name == "-h") {
       parsed.help = true;
       return parsed;
+    } else if (name == "--version" && !inlineValue) {
+      parsed.version = true;
+      return parsed;
     } else if (name == "--ignore-version-mismatch" && !inlineValue) {
       options.ignoreVersionMismatch = true;
     } else if (name == "--duo" && !inlineValue) {
       options.duo = true;
     } else if (name == "--force" && !inlineValue) {
       options.force = true;
+    } else if (name == "--quiet" && !inlineValue) {
+      options.quiet = true;
     } else if (const auto file = FileOption(options, name)) {
       const auto given = value();
       if (!given) break;
@@ -145,7 +150,7 @@ const char* HelpText() {
                          [--extrapolation proportional|one-to-one]
                          [--depth-digits N] [--age-digits N]
                          [--from trinity|composite|efd|age] [--to composite,efd,age]
-                         [--ignore-version-mismatch] [--force] INPUT OUTPUT
+                         [--ignore-version-mismatch] [--force] [--quiet] INPUT OUTPUT
 
 Converts the data file INPUT between the scales of a project and writes OUTPUT,
 the same file that "Convert from data file" and "Convert and Save" of the
@@ -189,9 +194,14 @@ Choices:
                      the correlation model (the warning is answered Yes);
                      without it such a model is not imported
   --force            replace an OUTPUT that is read-only
+  --quiet            no warnings about INPUT (a PSP or value that is no
+                     number and reads as 0, a file of values read as one of
+                     positions, rows of positions with more than four fields)
   -h, --help         show this text
+  --version          show the program's version
 
-Messages of the program go to standard error. Exit status: 0 when OUTPUT was
+Messages of the program go to standard error, each failure followed by what
+went wrong: the file, the line and the field, or the system's reason. Exit status: 0 when OUTPUT was
 written, 1 when an import or the conversion failed (OUTPUT, if it existed, is
 left as it was), 2 for a wrong command line, an OUTPUT that is one of the input
 files or is read-only (without --force), or a Duo import whose button is not

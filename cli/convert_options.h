@@ -27,6 +27,8 @@ struct ConvertOptions {
   bool ignoreVersionMismatch = false;
   // Replace an OUTPUT that is read-only.
   bool force = false;
+  // No warnings about what the data file probably meant.
+  bool quiet = false;
   std::string input;
   std::string output;
 };
@@ -34,6 +36,7 @@ struct ConvertOptions {
 struct ParsedCommandLine {
   ConvertOptions options;
   bool help = false;
+  bool version = false;
   // What is wrong with the command line; empty when nothing is.
   std::string error;
 };

@@ -3,10 +3,13 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cstdio>
 #include <fstream>
 #include <functional>
+#include <memory>
 #include <string>
 
+#include "cli/progress_display.h"
 #include "core/project_state.h"
 #include "duo/duo_state.h"
 #include "events/batch_state.h"
@@ -15,6 +18,7 @@
 #include "forms/frm_conversion.h"
 #include "forms/frm_main.h"
 #include "forms/scripted_platform.h"
+#include "service/import_diagnosis.h"
 
 namespace ostraline::cli {
 namespace {
@@ -55,6 +59,8 @@ class ConsolePlatform : public ScriptedPlatform {
 
 // Exit status of a Duo import whose button is not open at its turn.
 constexpr int kRefused = 2;
+// Rows from which a conversion shows its progress on a terminal.
+constexpr double kLargeFile = 50000;
 
 class Conversion {
  public:
@@ -64,8 +70,16 @@ class Conversion {
         platform_(options.ignoreVersionMismatch, !options.duoEvents.empty()) {
     SetPlatform(&platform_);
     platform_.onMessage = [this](const MessageRecord& message) { Tell(message); };
+    // A bar only where someone watches: nothing extra in a pipe or a log.
+    if (isatty(fileno(stderr)) != 0) {
+      progress_ = std::make_unique<ProgressDisplay>(stderr, kLargeFile);
+      SetScreenObserver(progress_.get());
+    }
   }
-  ~Conversion() { SetPlatform(nullptr); }
+  ~Conversion() {
+    if (progress_) SetScreenObserver(nullptr);
+    SetPlatform(nullptr);
+  }
 
   int Run() {
     const std::string* inputs[] = {&options_.model,   &options_.events,    &options_.ages,
@@ -80,7 +94,7 @@ class Conversion {
     FrmMain& main = *frmMain;
     // Chosen before the model is read, so that its depths are made by it.
     if (options_.oneToOne) main.Option4(1).Value = true;
-    if (!Import("correlation model", options_.model, main.Command1,
+    if (!Import("correlation model", options_.model, ImportedFile::CorrelationModel, main.Command1,
                 [&] { main.Command1_Click(); })) {
       return 1;
     }
@@ -88,16 +102,19 @@ class Conversion {
     // points take their EFD at the import of the age-depth model.
     ChooseDigits(main.mnuDepPrec, options_.depthDigits, DepthPrecision);
     ChooseDigits(main.mnuAgePrec, options_.ageDigits, AgePrecision);
-    if (!options_.events.empty() && !Import("list of event layers", options_.events, main.Command3,
-                                            [&] { main.Command3_Click(); })) {
+    if (!options_.events.empty() &&
+        !Import("list of event layers", options_.events, ImportedFile::EventList, main.Command3,
+                [&] { main.Command3_Click(); })) {
       return 1;
     }
     if (!options_.ages.empty() &&
-        !Import("age-depth model", options_.ages, main.Command4, [&] { main.Command4_Click(); })) {
+        !Import("age-depth model", options_.ages, ImportedFile::AgeModel, main.Command4,
+                [&] { main.Command4_Click(); })) {
       return 1;
     }
     if (!options_.varves.empty() &&
-        !Import("varve counts", options_.varves, main.Command5, [&] { main.Command5_Click(); })) {
+        !Import("varve counts", options_.varves, ImportedFile::VarveCounts, main.Command5,
+                [&] { main.Command5_Click(); })) {
       return 1;
     }
 
@@ -110,25 +127,41 @@ class Conversion {
     MainForm& reader = options_.duo ? static_cast<MainForm&>(*frm2Main) : main;
     reader.Command2.Click();
     FormSlot& slot = options_.duo ? static_cast<FormSlot&>(frm2Conversion) : frmConversion;
-    if (errorShown_ || !slot.IsLoaded()) return Failed("not read");
+    if (errorShown_ || !slot.IsLoaded()) {
+      Failed("not read");
+      Diagnose(ImportedFile::DataFile, options_.input);
+      return 1;
+    }
+    if (!options_.quiet) {
+      for (const std::string& warning : DataFileWarnings(options_.input))
+        messages_ << "ostraline-convert: warning: " << warning << "\n";
+    }
     FrmConversion& form = static_cast<FrmConversion&>(slot.GetForm());
     if (!ChooseScales(form)) return 1;
 
     Step("output " + options_.output);
     platform_.QueueFile(options_.output);
     form.Command1_Click();
-    if (errorShown_ || slot.IsLoaded()) return Failed("not written");
+    if (errorShown_ || slot.IsLoaded()) {
+      Failed("not written");
+      // The system's reason, as the output file met it.
+      if (LastFailure().serial != failuresBefore_) Failed(LastFailure().detail);
+      return 1;
+    }
     return 0;
   }
 
  private:
   void Step(std::string what) {
-    step_ = std::move(what);
+    step_ = Printable(what);
     errorShown_ = false;
+    failuresBefore_ = LastFailure().serial;
   }
 
   void Tell(const MessageRecord& message) {
-    messages_ << "ostraline-convert: " << step_ << ": " << message.title << ": " << message.text;
+    if (progress_) progress_->Clear();
+    messages_ << "ostraline-convert: " << step_ << ": " << message.title << ": "
+              << Printable(message.text);
     if (message.buttons == MsgButtons::YesNo) {
       messages_ << (message.answer == MsgAnswer::Yes ? " [Yes]"
                                                      : " [No: see --ignore-version-mismatch]");
@@ -138,21 +171,30 @@ class Conversion {
   }
 
   int Failed(const std::string& why) {
-    messages_ << "ostraline-convert: " << (step_.empty() ? "" : step_ + ": ") << why << "\n";
+    messages_ << "ostraline-convert: " << (step_.empty() ? "" : step_ + ": ") << Printable(why)
+              << "\n";
     return 1;
   }
 
   // An import took when its button went dark: that is how the chain moves on.
   // A message on the way (the first target below a short core, say) is told
   // but does not undo it.
-  bool Import(const char* what, const std::string& file, CommandButton& button,
+  bool Import(const char* what, const std::string& file, ImportedFile kind, CommandButton& button,
               const std::function<void()>& click) {
     Step(std::string(what) + " " + file);
     platform_.QueueFile(file);
     click();
     if (!button.Enabled) return true;
     Failed("not imported");
+    Diagnose(kind, file);
     return false;
+  }
+
+  // Where the file broke, when a failure ended its import; a refusal of the
+  // user's (a version declined) has nothing more to tell.
+  void Diagnose(ImportedFile kind, const std::string& file) {
+    if (LastFailure().serial == failuresBefore_) return;
+    messages_ << "ostraline-convert: " << DiagnoseImport(kind, file, LastFailure()) << "\n";
   }
 
   // "Open Ostraline Duo", then the Duo's own import chain. Its event list
@@ -164,19 +206,31 @@ class Conversion {
     platform_.QueueFile(options_.duoModel);
     if (!options_.duoEvents.empty()) platform_.QueueFile(options_.duoEvents);
     duo.Command1_Click();
-    if (duo.Command1.Enabled) return Failed("not imported");
+    if (duo.Command1.Enabled) {
+      Failed("not imported");
+      Diagnose(ImportedFile::CorrelationModel, options_.duoModel);
+      return 1;
+    }
     if (!options_.duoEvents.empty() && !EventListLoaded2) {
+      // Imported within the model's step: its failure counts from there.
+      const long failuresBefore = failuresBefore_;
       Step("parallel list of event layers " + options_.duoEvents);
-      return Failed("not imported");
+      failuresBefore_ = failuresBefore;
+      Failed("not imported");
+      Diagnose(ImportedFile::EventList, options_.duoEvents);
+      return 1;
     }
     const struct {
       const char* what;
       const std::string& file;
+      ImportedFile kind;
       CommandButton& button;
       std::function<void()> click;
     } chain[] = {
-        {"parallel age-depth model", options_.duoAges, duo.Command4, [&] { duo.Command4_Click(); }},
-        {"parallel varve counts", options_.duoVarves, duo.Command5, [&] { duo.Command5_Click(); }}};
+        {"parallel age-depth model", options_.duoAges, ImportedFile::AgeModel, duo.Command4,
+         [&] { duo.Command4_Click(); }},
+        {"parallel varve counts", options_.duoVarves, ImportedFile::VarveCounts, duo.Command5,
+         [&] { duo.Command5_Click(); }}};
     for (const auto& link : chain) {
       if (link.file.empty()) continue;
       if (!link.button.Enabled) {
@@ -184,7 +238,7 @@ class Conversion {
         Failed("refused: its button is not open at this point of the Duo's imports");
         return kRefused;
       }
-      if (!Import(link.what, link.file, link.button, link.click)) return 1;
+      if (!Import(link.what, link.file, link.kind, link.button, link.click)) return 1;
     }
     return 0;
   }
@@ -247,8 +301,10 @@ class Conversion {
   const ConvertOptions& options_;
   std::ostream& messages_;
   ConsolePlatform platform_;
+  std::unique_ptr<ProgressDisplay> progress_;
   std::string step_;
   bool errorShown_ = false;
+  long failuresBefore_ = 0;
 };
 
 }  // namespace

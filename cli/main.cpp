@@ -6,12 +6,17 @@
 
 #include "cli/convert_options.h"
 #include "cli/convert_run.h"
+#include "service/program_version.h"
 
 int main(int argc, char** argv) {
   const std::vector<std::string> args(argv + 1, argv + argc);
   const ostraline::cli::ParsedCommandLine parsed = ostraline::cli::ParseCommandLine(args);
   if (parsed.help) {
     std::cout << ostraline::cli::HelpText();
+    return 0;
+  }
+  if (parsed.version) {
+    std::cout << ostraline::ProgramVersion() << "\n";
     return 0;
   }
   if (!parsed.error.empty()) {

@@ -1,46 +1,61 @@
 // The desktop program: the main form in a window, as the model leaves it.
 #include <QApplication>
 #include <QTimer>
-#include <cstdio>
-#include <cstring>
+#include <iostream>
+#include <string>
+#include <vector>
 
 #include "desktop/demo.h"
+#include "desktop/desktop_options.h"
 #include "desktop/screenshot.h"
 #include "desktop/shell.h"
 #include "forms/frm_main.h"
+#include "service/program_version.h"
 
 int main(int argc, char* argv[]) {
+  // Read before Qt starts, so that --help and --version need no display.
+  const std::vector<std::string> args(argv + 1, argv + argc);
+  const ostraline::ParsedDesktopCommandLine parsed = ostraline::ParseDesktopCommandLine(args);
+  if (parsed.help) {
+    std::cout << ostraline::DesktopHelpText();
+    return 0;
+  }
+  if (parsed.version) {
+    std::cout << ostraline::ProgramVersion() << "\n";
+    return 0;
+  }
+  if (!parsed.error.empty()) {
+    std::cerr << "ostraline: " << parsed.error << "\n"
+              << ostraline::DesktopUsage() << "Try 'ostraline --help'.\n";
+    return 2;
+  }
+  const ostraline::DesktopOptions& options = parsed.options;
+
   QApplication app(argc, argv);
   ostraline::ConfigureApplication();
   ostraline::Shell shell;
 
-  const char* screenshot = nullptr;
-  bool demo = false;
-  bool duo = false;
-  for (int i = 1; i < argc; ++i) {
-    if (std::strcmp(argv[i], "--screenshot") == 0 && i + 1 < argc) {
-      screenshot = argv[++i];
-    } else if (std::strcmp(argv[i], "--demo") == 0) {
-      demo = true;
-    } else if (std::strcmp(argv[i], "--duo") == 0) {
-      duo = true;
-    }
-  }
-
   ostraline::frmMain->Show();
-  if (demo) {
-    const std::string folder = ostraline::SampleProjectFolder(argv[0]);
+  if (options.demo) {
+    const std::string folder =
+        ostraline::SampleProjectFolder(QCoreApplication::applicationFilePath().toStdString());
     if (folder.empty() || !ostraline::ImportSampleProject(shell, folder)) {
-      std::fputs("The sample project was not found.\n", stderr);
-    } else if (duo && !ostraline::ImportSampleDuo(shell, folder)) {
-      std::fputs("The sample project has no parallel set.\n", stderr);
+      std::cerr << "The sample project was not found.\n";
+    } else if (options.duo && !ostraline::ImportSampleDuo(shell, folder)) {
+      std::cerr << "The sample project has no parallel set.\n";
+    }
+  } else if (!options.files.model.empty()) {
+    ostraline::QtDialogs user;
+    const std::string stopped = ostraline::ImportProjectFiles(shell, options.files, user);
+    if (!stopped.empty()) {
+      std::cerr << "ostraline: " << stopped << " was not imported; the imports stopped there.\n";
     }
   }
-  if (screenshot != nullptr) {
+  if (!options.screenshot.empty()) {
     // Once the event loop has shown the window.
     QTimer::singleShot(0, &app, [&] {
-      const bool saved = ostraline::SaveScreenshot(shell, screenshot);
-      if (!saved) std::fprintf(stderr, "cannot write the screenshot %s\n", screenshot);
+      const bool saved = ostraline::SaveScreenshot(shell, options.screenshot);
+      if (!saved) std::cerr << "cannot write the screenshot " << options.screenshot << "\n";
       app.exit(saved ? 0 : 1);
     });
   }

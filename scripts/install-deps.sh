@@ -2,7 +2,8 @@
 # Installs what Ostraline needs to build, test and run on Debian, if missing.
 set -euo pipefail
 packages=(cmake ninja-build g++ clang libclang-rt-dev libgtest-dev libgmock-dev libbenchmark-dev
-          qt6-base-dev libgl1-mesa-dev fonts-liberation xvfb xauth)
+          qt6-base-dev libgl1-mesa-dev fonts-liberation xvfb xauth
+          desktop-file-utils man-db dpkg-dev)
 missing=()
 for p in "${packages[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")

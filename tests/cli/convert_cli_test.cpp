@@ -316,5 +316,124 @@ TEST_F(ConvertCommand, TheOutputIsReplacedWithoutLosingAFile) {
   EXPECT_EQ(Read("out.csv"), "old");
 }
 
+TEST_F(ConvertCommand, EveryFailureSaysWhereAndWhy) {
+  auto errorsOf = [&](const std::string& arguments) {
+    const Outcome run = Convert(arguments);
+    EXPECT_EQ(run.status, 1) << arguments;
+    return run.errors;
+  };
+  auto model = TwoSectionModel();
+  model[2].holes[1] = "abc";
+  Write("model_abc.csv", ModelText(model));
+  EXPECT_NE(errorsOf("--model model_abc.csv samples.csv out.csv")
+                .find("Error: File format error.\nostraline-convert: correlation model "
+                      "model_abc.csv: not imported\nostraline-convert: model_abc.csv: line 3, "
+                      "field 3: 'abc' is not a number\n"),
+            std::string::npos);
+
+  const std::string whole = ModelText(TwoSectionModel());
+  Write("model_cut.csv", whole.substr(0, whole.rfind(',', whole.rfind(',') - 1)));
+  EXPECT_NE(errorsOf("--model model_cut.csv samples.csv out.csv")
+                .find("model_cut.csv: line 9: the file ends inside a record: 12 of its 14 "
+                      "fields are there"),
+            std::string::npos);
+
+  const std::string chain = "--model model_20110305.csv ";
+  Write("events_cut.csv", std::string(kFusedLayer) + "A,02,10");
+  EXPECT_NE(errorsOf(chain + "--events events_cut.csv samples.csv out.csv")
+                .find("events_cut.csv: line 4: the file ends inside a record: 3 of its 5 fields"),
+            std::string::npos);
+
+  auto points = kThreeControlPoints;
+  points[0][1] = "Z";
+  Write("ages_z.csv", AgeModelText(points));
+  const std::string errors =
+      errorsOf(chain + "--events events_20110401.csv --ages ages_z.csv samples.csv out.csv");
+  EXPECT_NE(errors.find("Bore hole name 'Z' has not been defined."), std::string::npos);
+  EXPECT_NE(errors.find("ages_z.csv: line 2, field 2: 'Z' is no bore hole of the correlation "
+                        "models imported"),
+            std::string::npos)
+      << errors;
+
+  Write("varves_big.csv", VarveText({{"120", "10"}, {"125", "1e40"}}));
+  EXPECT_NE(errorsOf(chain + "--events events_20110401.csv --ages ages_20120101.csv "
+                             "--varves varves_big.csv samples.csv out.csv")
+                .find("varves_big.csv: line 3, field 2: '1e40' is beyond the range of a Single"),
+            std::string::npos);
+
+  Write("short.csv", "Sample,Hole\r\nS1,A\r\n");
+  EXPECT_NE(errorsOf(chain + "short.csv out.csv")
+                .find("short.csv: line 2: the file ends where a further field was expected"),
+            std::string::npos);
+
+  // The system's reason for an output, and nothing of a file steers the terminal.
+  EXPECT_NE(errorsOf(chain + "samples.csv no/such/folder/out.csv")
+                .find("No such file or directory"),
+            std::string::npos);
+  model = TwoSectionModel();
+  model[2].holes[1] = "\x1b[31m";
+  Write("model_esc.csv", ModelText(model));
+  const std::string escaped = errorsOf("--model model_esc.csv samples.csv out.csv");
+  EXPECT_EQ(escaped.find('\x1b'), std::string::npos) << escaped;
+  EXPECT_NE(escaped.find("'\\x1b[31m' is not a number"), std::string::npos) << escaped;
+}
+
+TEST_F(ConvertCommand, WarningsLeaveOutputAndStatusAlone) {
+  const std::string chain = "--model model_20110305.csv --events events_20110401.csv ";
+  Write("odd.csv", "Sample,Hole,Section,PSP\r\nS1,A,01,30\r\nS2,A,01,abc\r\nS3,A,01,\"\"\r\n");
+  Outcome run = Convert(chain + "odd.csv out.csv");
+  EXPECT_EQ(run.status, 0);
+  EXPECT_EQ(run.errors,
+            "ostraline-convert: warning: odd.csv: line 3, field 4: PSP 'abc' is no number and "
+            "reads as 0\nostraline-convert: warning: odd.csv: line 4, field 4: PSP '' is no "
+            "number and reads as 0\n");
+  const std::string warned = Read("out.csv");
+  run = Convert(chain + "--quiet odd.csv out.csv");
+  EXPECT_EQ(run.status, 0);
+  EXPECT_EQ(run.errors, "");
+  EXPECT_EQ(Read("out.csv"), warned);
+
+  Write("values.csv", "Sample,Composite depth\r\nV1,135\r\nV2,151.0\r\nV3,240\r\n");
+  run = Convert(chain + "values.csv out.csv");
+  EXPECT_NE(run.errors.find("values.csv: line 3, field 2: '151.0' is not written as a plain "
+                            "number, so the file was read as a file of positions"),
+            std::string::npos)
+      << run.errors;
+
+  std::string many = "Sample,Hole,Section,PSP\r\n";
+  for (int row = 0; row < 7; ++row) many += "S,A,01,x\r\n";
+  Write("many.csv", many);
+  run = Convert(chain + "many.csv out.csv");
+  EXPECT_NE(run.errors.find("line 6, field 4: PSP 'x'"), std::string::npos) << run.errors;
+  EXPECT_EQ(run.errors.find("line 7, field 4"), std::string::npos) << run.errors;
+  EXPECT_NE(run.errors.find("and 2 more PSPs that are no number"), std::string::npos);
+
+  Write("wide.csv", "Sample,Hole,Section,PSP\r\nS1,A,01,30,x\r\nS2,A,01\r\n");
+  run = Convert(chain + "wide.csv out.csv");
+  EXPECT_NE(run.errors.find("wide.csv: line 2 has 5 fields: a file of positions has four"),
+            std::string::npos)
+      << run.errors;
+}
+
+TEST_F(ConvertCommand, ALargeFileShowsItsProgressOnATerminalOnly) {
+  std::string big = "Sample,Hole,Section,PSP\r\n";
+  for (int i = 0; i < 120000; ++i) big += "S" + std::to_string(i) + ",A,01,30\r\n";
+  Write("big.csv", big);
+  // script gives the program a terminal and keeps what it wrote there.
+  const std::string command = "--model model_20110305.csv big.csv out.csv";
+  const std::string onTerminal = "cd '" + folder.string() + "' && script -qec \"'" +
+                                 OSTRALINE_CONVERT + "' " + command +
+                                 "\" terminal.txt >/dev/null 2>&1 </dev/null";
+  EXPECT_EQ(std::system(onTerminal.c_str()), 0);
+  const std::string shown = Read("terminal.txt");
+  EXPECT_NE(shown.find(" of 120,000 rows"), std::string::npos) << shown;
+  EXPECT_NE(shown.find(" s left"), std::string::npos) << shown;
+  const std::string converted = Read("out.csv");
+  const Outcome inPipe = Convert(command);
+  EXPECT_EQ(inPipe.status, 0);
+  EXPECT_EQ(inPipe.errors, "");
+  EXPECT_EQ(Read("out.csv"), converted);
+}
+
 }  // namespace
 }  // namespace ostraline
