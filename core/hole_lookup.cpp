@@ -90,7 +90,7 @@ Integer SectionOrdinalByName(BoreHoleSet& set, int hole, const std::string& name
 Variant SectionOrdinalOfRow(BoreHoleSet& set, int hole, int topRow) {
   Long count = 0;
   for (int row = 0; row <= topRow; ++row) {
-    if (IsSectionTop(set.ModelCell(0, hole, 0, row))) ++count;
+    if (IsSectionTop(std::as_const(set.ModelCell)(0, hole, 0, row))) ++count;
   }
   return count;
 }

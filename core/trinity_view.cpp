@@ -1,5 +1,7 @@
 #include "core/trinity_view.h"
 
+#include <utility>
+
 #include "core/depth_conversions.h"
 #include "core/hole_lookup.h"
 #include "core/project_state.h"
@@ -28,7 +30,7 @@ void SearchCoreTop(BoreHoleSet& set) {
     if (form.Option2(2).Value) depth = CDToEFD(set, depth).ToSingle();
     if (form.Option2(3).Value) depth = GetAgeFromCD(set, depth).ToSingle();
   }
-  if (DepthAxis == 0) depth = CSng(CDbl(set.ModelCell(DepthAxis, K, 2, I)) + Val(form.Text1.Text));
+  if (DepthAxis == 0) depth = CSng(CDbl(std::as_const(set.ModelCell)(DepthAxis, K, 2, I)) + Val(form.Text1.Text));
   // The Duo's columns stand on the master's depth.
   if (set.IsDuo) depth = DuoToMaster(depth);
   for (J = 1; J <= 5; ++J) {

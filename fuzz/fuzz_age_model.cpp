@@ -1,6 +1,7 @@
-// Any bytes imported as an age-depth model, after a good correlation model
-// and event list, end in the program's own message or in a model whose
-// lookups answer or fail to their caller; never in a crash or a hang.
+// Any bytes imported as an age-depth model, after the sample project's
+// correlation model and event list, end in the program's own message or in a
+// model whose lookups answer or fail to their caller; never in a crash or a
+// hang.
 #include <cstddef>
 #include <cstdint>
 
@@ -8,7 +9,8 @@
 #include "events/age_lookup.h"
 #include "events/event_state.h"
 #include "forms/frm_main.h"
-#include "fuzz/support/age_chain.h"
+#include "fuzz/support/fuzz_support.h"
+#include "fuzz/support/sample_chain.h"
 #include "runtime/failure.h"
 
 namespace {
@@ -26,15 +28,16 @@ void CheckControlPoints() {
   }
 }
 
-// Every lookup either answers or fails to its caller, as a handler would see it.
+// Every lookup either answers or fails to its caller, as a handler would see
+// it: above the core, in its sections, across its layers, below it.
 void LookEverywhere(FrmMain& form) {
-  for (float x : {-9999.0f, 0.0f, 135.0f, 155.0f, 199.5f, 240.0f, 290.0f, 1e6f, 9999.0f}) {
+  for (float x : {-9999.0f, 0.0f, 20.0f, 150.3f, 566.0f, 1440.0f, 3837.5f, 6999.5f, 1e6f}) {
     try {
       GetAgeFromCD(x);
     } catch (const RuntimeFailure&) {
     }
     try {
-      GetEFDFromAge(x * 10);
+      GetEFDFromAge(x * 7);
     } catch (const RuntimeFailure&) {
     }
   }
@@ -48,10 +51,11 @@ void LookEverywhere(FrmMain& form) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static fuzz::AgeChain chain(false);
+  static const fuzz::SampleChain chain({fuzz::SampleFile::Model, fuzz::SampleFile::Events});
   ScriptedPlatform& platform = chain.Restore();
-  // The model's version never matches: odd lengths decline the warning, so
-  // that both ways are taken.
+  const long layers = EventCount;
+  // A file made for another version of the model is warned of: odd lengths
+  // decline the warning, so that both ways are taken.
   const bool decline = size % 2 == 1;
   if (decline) platform.QueueAnswer(MsgAnswer::No);
   platform.QueueFile(fuzz::WriteInputFile(data, size));
@@ -67,7 +71,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     fuzz::Require(EventCount == -9999 && MergedEventCount == -9999, "refused with the layers in");
     return 0;
   }
-  fuzz::Require(failures == 0 && AgeModelLoaded && EventCount == 2, "taken but not loaded");
+  fuzz::Require(failures == 0 && AgeModelLoaded && EventCount == layers, "taken but not loaded");
   CheckControlPoints();
   LookEverywhere(form);
   return 0;

@@ -1,27 +1,27 @@
-// Any bytes read as a proxy record into panel 0, after a good correlation
-// model, event list and age-depth model, end in the program's one message
-// with the progress bar gone, or in a record of at least eight rows and 1 to
-// 135 columns: drawn at once when its rows give bore hole, section and PSP,
-// else waiting in frmSelect with the main form disabled, whose "OK" then
-// converts and draws it. Never a crash or a hang.
+// Any bytes read as a proxy record into panel 0, after the sample project's
+// correlation model, event list, age-depth model and varve counts, end in the
+// program's one message with the progress bar gone, or in a record of at
+// least eight rows and 1 to 135 columns: drawn at once when its rows give
+// bore hole, section and PSP, else waiting in frmSelect with the main form
+// disabled, whose "OK" then converts and draws it. Never a crash or a hang.
+// Each record given by bore hole, section and PSP keeps its file open until
+// the process ends, as the program does: a run of many hours may run out of
+// file descriptors.
 #include <cstddef>
 #include <cstdint>
 
 #include "forms/frm_main.h"
 #include "forms/frm_select.h"
-#include "fuzz/support/age_chain.h"
+#include "fuzz/support/fuzz_support.h"
+#include "fuzz/support/sample_chain.h"
 #include "proxies/proxy_records.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace ostraline;
-  static fuzz::AgeChain chain(true);
-  if (frmSelect.IsLoaded()) frmSelect.Unload();
-  FormSlot::CollectUnloaded();
+  static const fuzz::SampleChain chain({fuzz::SampleFile::Model, fuzz::SampleFile::Events,
+                                        fuzz::SampleFile::Ages, fuzz::SampleFile::Varves});
   ScriptedPlatform& platform = chain.Restore();
-  masterProxies = ProxyRecords{};
-  proxyState = ProxyState{};
   FrmMain& form = *frmMain;
-  form.Enabled = true;
 
   platform.QueueFile(fuzz::WriteInputFile(data, size));
   form.Command6(0).Click();
