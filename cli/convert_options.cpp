@@ -31,19 +31,6 @@ std::optional<int> ScaleList(const std::string& text) {
   }
 }
 
-// The field of an option that names a file of the project.
-std::optional<std::string*> FileOption(ConvertOptions& options, const std::string& name) {
-  const std::pair<const char*, std::string*> files[] = {
-      {"--model", &options.model},        {"--events", &options.events},
-      {"--ages", &options.ages},          {"--varves", &options.varves},
-      {"--duo-model", &options.duoModel}, {"--duo-events", &options.duoEvents},
-      {"--duo-ages", &options.duoAges},   {"--duo-varves", &options.duoVarves}};
-  for (const auto& [option, field] : files) {
-    if (name == option) return field;
-  }
-  return std::nullopt;
-}
-
 }  // namespace
 
 ParsedCommandLine ParseCommandLine(const std::vector<std::string>& args) {
@@ -81,11 +68,11 @@ ParsedCommandLine ParseCommandLine(const std::vector<std::string>& args) {
       options.force = true;
     } else if (name == "--quiet" && !inlineValue) {
       options.quiet = true;
-    } else if (const auto file = FileOption(options, name)) {
+    } else if (std::string* const file = ProjectFileOption(options, name)) {
       const auto given = value();
       if (!given) break;
       if (given->empty()) invalid(*given);
-      **file = *given;
+      *file = *given;
     } else if (name == "--extrapolation") {
       const auto method = value();
       if (!method) break;
@@ -127,15 +114,10 @@ ParsedCommandLine ParseCommandLine(const std::vector<std::string>& args) {
         "expected INPUT and OUTPUT, got " + std::to_string(files.size()) + " file name(s)";
   } else if (options.model.empty()) {
     parsed.error = "--model is required";
-  } else if (!options.ages.empty() && options.events.empty()) {
-    parsed.error = "--ages needs --events: the age-depth model is imported after the event list";
-  } else if (!options.varves.empty() && options.ages.empty()) {
-    parsed.error = "--varves needs --ages: the varve counts are imported after the age-depth model";
-  } else if (!options.duoModel.empty() && options.events.empty()) {
-    parsed.error = "--duo-model needs --events: the Duo opens once the master's event list stands";
-  } else if (options.duoModel.empty() && (options.duo || !options.duoEvents.empty() ||
-                                          !options.duoAges.empty() || !options.duoVarves.empty())) {
-    parsed.error = "--duo, --duo-events, --duo-ages and --duo-varves need --duo-model";
+  } else if (options.duo && options.duoModel.empty()) {
+    parsed.error = "--duo needs --duo-model";
+  } else if (const std::string order = ImportOrderError(options); !order.empty()) {
+    parsed.error = order;
   } else {
     options.input = files[0];
     options.output = files[1];

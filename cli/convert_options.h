@@ -4,18 +4,12 @@
 #include <string>
 #include <vector>
 
+#include "service/command_line.h"
+
 namespace ostraline::cli {
 
-struct ConvertOptions {
-  std::string model;
-  std::string events;
-  std::string ages;
-  std::string varves;
-  // The Duo's parallel set, opened after the master's files are imported.
-  std::string duoModel;
-  std::string duoEvents;
-  std::string duoAges;
-  std::string duoVarves;
+// The project's files, and what is to be done with them.
+struct ConvertOptions : ProjectFiles {
   // INPUT converted by the Duo's form instead of the master's.
   bool duo = false;
   bool oneToOne = false;
