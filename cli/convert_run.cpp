@@ -128,9 +128,7 @@ class Conversion {
     reader.Command2.Click();
     FormSlot& slot = options_.duo ? static_cast<FormSlot&>(frm2Conversion) : frmConversion;
     if (errorShown_ || !slot.IsLoaded()) {
-      Failed("not read");
-      Diagnose(ImportedFile::DataFile, options_.input);
-      return 1;
+      return FailedImport("not read", ImportedFile::DataFile, options_.input);
     }
     if (!options_.quiet) {
       for (const std::string& warning : DataFileWarnings(options_.input))
@@ -185,16 +183,17 @@ class Conversion {
     platform_.QueueFile(file);
     click();
     if (!button.Enabled) return true;
-    Failed("not imported");
-    Diagnose(kind, file);
+    FailedImport("not imported", kind, file);
     return false;
   }
 
-  // Where the file broke, when a failure ended its import; a refusal of the
-  // user's (a version declined) has nothing more to tell.
-  void Diagnose(ImportedFile kind, const std::string& file) {
-    if (LastFailure().serial == failuresBefore_) return;
-    messages_ << "ostraline-convert: " << DiagnoseImport(kind, file, LastFailure()) << "\n";
+  // The step's failure, then where the file broke when a failure ended its
+  // import; a refusal of the user's (a version declined) has nothing more to tell.
+  int FailedImport(const char* why, ImportedFile kind, const std::string& file) {
+    Failed(why);
+    if (LastFailure().serial != failuresBefore_)
+      messages_ << "ostraline-convert: " << DiagnoseImport(kind, file, LastFailure()) << "\n";
+    return 1;
   }
 
   // "Open Ostraline Duo", then the Duo's own import chain. Its event list
@@ -207,18 +206,14 @@ class Conversion {
     if (!options_.duoEvents.empty()) platform_.QueueFile(options_.duoEvents);
     duo.Command1_Click();
     if (duo.Command1.Enabled) {
-      Failed("not imported");
-      Diagnose(ImportedFile::CorrelationModel, options_.duoModel);
-      return 1;
+      return FailedImport("not imported", ImportedFile::CorrelationModel, options_.duoModel);
     }
     if (!options_.duoEvents.empty() && !EventListLoaded2) {
       // Imported within the model's step: its failure counts from there.
       const long failuresBefore = failuresBefore_;
       Step("parallel list of event layers " + options_.duoEvents);
       failuresBefore_ = failuresBefore;
-      Failed("not imported");
-      Diagnose(ImportedFile::EventList, options_.duoEvents);
-      return 1;
+      return FailedImport("not imported", ImportedFile::EventList, options_.duoEvents);
     }
     const struct {
       const char* what;

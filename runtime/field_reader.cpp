@@ -29,11 +29,8 @@ bool FieldReader::ReadOn(std::size_t i) {
 
 void FieldReader::DropRead() {
   if (!file_ || pos_ < chunk_) return;
-  // A carriage return stays: whether it ends a line alone is told by what follows.
-  const std::size_t drop = content_[pos_ - 1] == '\r' ? pos_ - 1 : pos_;
-  linesDropped_ += LineEndsBefore(drop);
-  content_.erase(0, drop);
-  pos_ -= drop;
+  content_.erase(0, pos_);
+  pos_ = 0;
 }
 
 namespace {
@@ -68,7 +65,7 @@ FieldReader::Field FieldReader::Next() {
     if (lineEnd) next_ = {next_.line + 1, 0};
     ++pos_;
   }
-  if (!Has(pos_)) Fail(FailureKind::InputPastEnd, "line " + std::to_string(Line()));
+  if (!Has(pos_)) Fail(FailureKind::InputPastEnd, "line " + std::to_string(next_.line));
   ++next_.field;
   last_ = next_;
 
@@ -104,6 +101,10 @@ FieldReader::Field FieldReader::Next() {
   return field;
 }
 
+std::string PlaceText(const FieldReader::Place& place) {
+  return "line " + std::to_string(place.line) + ", field " + std::to_string(place.field);
+}
+
 std::string FieldReader::ReadText() {
   return Next().text;
 }
@@ -113,9 +114,8 @@ float FieldReader::ReadSingle() {
   try {
     return CSng(Val(field.text));
   } catch (const RuntimeFailure& failure) {
-    Fail(failure.Kind(), "line " + std::to_string(last_.line) + ", field " +
-                             std::to_string(last_.field) + ": '" + field.text +
-                             "' is beyond the range of a Single");
+    Fail(failure.Kind(),
+         PlaceText(last_) + ": '" + field.text + "' is beyond the range of a Single");
   }
 }
 
@@ -125,20 +125,6 @@ Variant FieldReader::ReadVariant() {
   if (field.text.empty()) return Variant();
   if (IsNumeric(field.text)) return Variant(CDbl(field.text));
   return Variant(std::move(field.text));
-}
-
-long FieldReader::LineEndsBefore(std::size_t end) const {
-  long ends = 0;
-  for (std::size_t i = 0; i < end && i < content_.size(); ++i) {
-    const bool crAlone =
-        content_[i] == '\r' && (i + 1 >= content_.size() || content_[i + 1] != '\n');
-    if (content_[i] == '\n' || crAlone) ++ends;
-  }
-  return ends;
-}
-
-long FieldReader::Line() const {
-  return 1 + linesDropped_ + LineEndsBefore(pos_);
 }
 
 void FieldWriter::Separate() {

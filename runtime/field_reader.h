@@ -26,7 +26,7 @@ class FieldReader {
   bool Eof() { return !Has(pos_); }
 
   // Where the reader stands, for messages beyond the program's own texts.
-  long Line() const;
+  long Line() const { return next_.line; }
   // Where the field read last began: its line and its place on that line,
   // both counted from 1.
   struct Place {
@@ -47,20 +47,21 @@ class FieldReader {
   bool ReadOn(std::size_t i);
   // Drops the text read before the field about to begin.
   void DropRead();
-  long LineEndsBefore(std::size_t end) const;
 
   std::string content_;
   std::size_t pos_ = 0;
   // The file behind content_ while it is read a chunk at a time.
   std::shared_ptr<std::istream> file_;
   std::size_t chunk_ = 0;
-  long linesDropped_ = 0;
   Place next_{1, 0};
   Place last_;
 };
 
 // Writing a data file: fields separated by commas, text in double quotes,
 // numbers bare, one row to a line.
+// "line 37, field 14".
+std::string PlaceText(const FieldReader::Place& place);
+
 class FieldWriter {
  public:
   void Text(const std::string& text);

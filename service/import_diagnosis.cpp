@@ -47,13 +47,6 @@ std::size_t FieldsPerRecord(ImportedFile kind, const std::vector<ScannedField>& 
   return 1;
 }
 
-std::string At(const FieldReader::Place& place) {
-  return "line " + std::to_string(place.line) + ", field " + std::to_string(place.field);
-}
-
-bool StartsWith(const std::string& text, std::string_view head) {
-  return text.compare(0, head.size(), head) == 0;
-}
 
 // A cell as the imports see it: trimmed, and with the model's prefix
 // character dropped where it has one.
@@ -81,7 +74,7 @@ std::string UnknownHole(const std::vector<ScannedField>& fields, const std::stri
   // The bore hole is the second field of an age-depth record.
   for (std::size_t i = 1; i < fields.size(); i += 11) {
     if (fields[i].text == name) {
-      return At(fields[i].place) + ": '" + name +
+      return PlaceText(fields[i].place) + ": '" + name +
              "' is no bore hole of the correlation models imported";
     }
   }
@@ -92,8 +85,8 @@ std::string Explain(ImportedFile kind, const std::vector<ScannedField>& fields,
                     const FailureRecord& failure) {
   const std::string& detail = failure.detail;
   // The reader tells the place itself where it failed on a field.
-  if (StartsWith(detail, "line ") && detail.find(':') != std::string::npos) return detail;
-  if (StartsWith(detail, "bore hole ") && kind == ImportedFile::AgeModel)
+  if (detail.starts_with("line ") && detail.find(':') != std::string::npos) return detail;
+  if (detail.starts_with("bore hole ") && kind == ImportedFile::AgeModel)
     return UnknownHole(fields, detail.substr(10));
   const std::size_t perRecord = FieldsPerRecord(kind, fields);
   switch (failure.kind) {
@@ -105,7 +98,7 @@ std::string Explain(ImportedFile kind, const std::vector<ScannedField>& fields,
                                  ? "' is not a number"
                                  : "' is beyond the range of a number";
       if (const ScannedField* field = FindCell(fields, detail))
-        return At(field->place) + ": '" + detail + expected;
+        return PlaceText(field->place) + ": '" + detail + expected;
       if (!detail.empty()) return "'" + detail + expected;
       break;
     }
@@ -158,10 +151,10 @@ std::vector<std::string> DataFileWarnings(const std::string& path) {
       first.push_back({std::move(text), file.LastPlace()});
     }
     if (first.size() < 6) return out;
-    const bool positions = !IsValueFileCell(first[5].text);
-    const std::size_t perRecord = positions ? 4 : 2;
+    const std::size_t perRecord = FieldsPerRecord(ImportedFile::DataFile, first);
+    const bool positions = perRecord == 4;
     if (positions && IsNumeric(first[5].text)) {
-      out.push_back(At(first[5].place) + ": '" + first[5].text +
+      out.push_back(PlaceText(first[5].place) + ": '" + first[5].text +
                     "' is not written as a plain number, so the file was read as a file of "
                     "positions, not of values");
     }
@@ -177,7 +170,7 @@ std::vector<std::string> DataFileWarnings(const std::string& path) {
       }
       // The PSP is the fourth field of a position, the value the second of a value.
       if (index >= perRecord && index % perRecord == perRecord - 1 && !IsNumeric(field.text)) {
-        noNumbers.Add(At(field.place) + ": " + (positions ? "PSP '" : "value '") + field.text +
+        noNumbers.Add(PlaceText(field.place) + ": " + (positions ? "PSP '" : "value '") + field.text +
                       "' is no number and reads as " + Trim(Str(Val(field.text))));
       }
       last = field;
