@@ -56,6 +56,7 @@ struct PlainCells {
   const BoreHoleSet& set;
   int hole;
   double Psp(long row) const { return CDbl(std::as_const(set.ModelCell)(0, hole, 1, row)); }
+  Single PspSingle(long row) const { return CSng(Psp(row)); }
   double Cd(long row) const { return CDbl(std::as_const(set.TieCell)(1, row)); }
   bool Bottom(long row) const {
     return IsSectionBottom(std::as_const(set.ModelCell)(0, hole, 0, row));
@@ -70,26 +71,27 @@ struct NotANumber {};
 struct ParsedCells {
   const TrinityCells& cells;
   int hole;
-  double Psp(long row) const { return Read(cells.psp[hole], cells.pspKnown[hole], row); }
-  double Cd(long row) const { return Read(cells.cd, cells.cdKnown, row); }
-  bool Bottom(long row) const {
+  const TrinityRow& At(long row) const {
     if (row < 0 || row > cells.lastRow) throw NotANumber{};
-    return cells.bottom[hole][static_cast<std::size_t>(row)] != 0;
+    return cells.rows[hole][static_cast<std::size_t>(row)];
   }
-  double Read(const std::vector<double>& values, const std::vector<char>& known, long row) const {
-    if (row < 0 || row > cells.lastRow || !known[static_cast<std::size_t>(row)]) throw NotANumber{};
-    return values[static_cast<std::size_t>(row)];
+  double Psp(long row) const {
+    const TrinityRow& at = At(row);
+    if (!at.pspKnown) throw NotANumber{};
+    return at.psp;
   }
+  Single PspSingle(long row) const {
+    const TrinityRow& at = At(row);
+    if (!at.pspFits) throw NotANumber{};
+    return at.pspSingle;
+  }
+  double Cd(long row) const {
+    const TrinityRow& at = At(row);
+    if (!at.cdKnown) throw NotANumber{};
+    return at.cd;
+  }
+  bool Bottom(long row) const { return At(row).bottom; }
 };
-
-void Parse(const std::string& cell, double& value, char& known) {
-  try {
-    value = CDbl(cell);
-    known = 1;
-  } catch (const RuntimeFailure&) {
-    known = 0;
-  }
-}
 
 // The model's cells of a bore hole, read anew when the model has changed.
 const TrinityCells* Cells(BoreHoleSet& set, int hole) {
@@ -104,16 +106,27 @@ const TrinityCells* Cells(BoreHoleSet& set, int hole) {
       cells.tieRevision != ties.Revision(1) || cells.lastRow != last) {
     cells = TrinityCells{};
     const auto rows = static_cast<std::size_t>(last + 1);
-    cells.cd.resize(rows);
-    cells.cdKnown.resize(rows);
-    for (long r = 0; r <= last; ++r) Parse(ties(1, r), cells.cd[r], cells.cdKnown[r]);
+    std::vector<TrinityRow> tieRows(rows);
+    for (long r = 0; r <= last; ++r) {
+      TrinityRow& row = tieRows[static_cast<std::size_t>(r)];
+      try {
+        row.cd = CDbl(ties(1, r));
+        row.cdKnown = true;
+      } catch (const RuntimeFailure&) {
+      }
+    }
     for (int h = 1; h <= 4; ++h) {
-      cells.psp[h].resize(rows);
-      cells.pspKnown[h].resize(rows);
-      cells.bottom[h].resize(rows);
+      cells.rows[h] = tieRows;
       for (long r = 0; r <= last; ++r) {
-        Parse(model(0, h, 1, r), cells.psp[h][r], cells.pspKnown[h][r]);
-        cells.bottom[h][r] = IsSectionBottom(model(0, h, 0, r)) ? 1 : 0;
+        TrinityRow& row = cells.rows[h][static_cast<std::size_t>(r)];
+        try {
+          row.psp = CDbl(model(0, h, 1, r));
+          row.pspKnown = true;
+          row.pspSingle = CSng(row.psp);
+          row.pspFits = true;
+        } catch (const RuntimeFailure&) {
+        }
+        row.bottom = IsSectionBottom(model(0, h, 0, r));
       }
     }
     cells.modelRevision = model.Revision(0);
@@ -151,7 +164,7 @@ Variant Composite(const BoreHoleSet& set, int hole, int section, Single psp, con
         TieRowLast = static_cast<int>(r);
         ++count;
       }
-      if (CSng(cells.Psp(TieRowLast)) >= psp && rowCd != 9999 && TieRowPrevious != 0) {
+      if (cells.PspSingle(TieRowLast) >= psp && rowCd != 9999 && TieRowPrevious != 0) {
         left = true;
         break;
       }
@@ -173,8 +186,8 @@ Variant Composite(const BoreHoleSet& set, int hole, int section, Single psp, con
     MainForm& form = *frmMain;
     if (form.Option4(0).Value) return interpolation();
     if (form.Option4(1).Value) {
-      if (CSng(cells.Psp(a)) > psp) return cells.Cd(a) + (p - cells.Psp(a));
-      if (CSng(cells.Psp(b)) >= psp) return interpolation();
+      if (cells.PspSingle(a) > psp) return cells.Cd(a) + (p - cells.Psp(a));
+      if (cells.PspSingle(b) >= psp) return interpolation();
       return cells.Cd(b) + (p - cells.Psp(b));
     }
     return Variant();
@@ -184,6 +197,17 @@ Variant Composite(const BoreHoleSet& set, int hole, int section, Single psp, con
 }
 
 }  // namespace
+
+double ModelPspValue(BoreHoleSet& set, int hole, long row) {
+  if (FastLookups) {
+    const TrinityCells* cells = Cells(set, hole);
+    if (cells != nullptr && row >= 0 && row <= cells->lastRow) {
+      const TrinityRow& at = cells->rows[hole][static_cast<std::size_t>(row)];
+      if (at.pspKnown) return at.psp;
+    }
+  }
+  return Val(std::as_const(set.ModelCell)(0, hole, 1, row));
+}
 
 Variant CompositeFromTrinity(BoreHoleSet& set, int hole, int section, Single psp) {
   if (FastLookups) {

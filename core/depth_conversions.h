@@ -7,6 +7,10 @@
 
 namespace ostraline {
 
+// Val of a bore hole's PSP cell on Scale 0, from the numbers the lookups
+// parse once wherever the cell reads as one.
+double ModelPspValue(BoreHoleSet& set, int hole, long row);
+
 // Composite depth as a Double, the Integer 9999 when it has none, or empty
 // when the section gives no answer.
 Variant CompositeFromTrinity(BoreHoleSet& set, int hole, int section, Single psp);

@@ -25,26 +25,38 @@ struct NumberColumn {
   bool rising = false;
 };
 
-// Whether the markers of the varve record, rows 1 on, never fall.
+// Whether the markers of the varve record, rows 1 on, never fall; and
+// whether its counts are whole numbers so small that any sum of their
+// intervals is exact in a Single, with the running sum of those intervals.
 struct MarkerOrder {
-  unsigned long long revision = 0;
+  unsigned long long markerRevision = 0;
+  unsigned long long countRevision = 0;
   bool built = false;
   bool rising = false;
+  bool wholeCounts = false;
+  std::vector<double> counted;  // the intervals of rows 1..i
 };
 
-// What the composite depth of a position reads of the model, row by row:
-// each bore hole's PSP and whether the row ends a section, and the tie's
-// composite depth.
+// What the composite depth of a position reads of one row of the model for
+// one bore hole: its PSP, as a Single too, the tie's composite depth, and
+// whether the row ends a section; each number with whether its cell reads
+// as one.
+struct TrinityRow {
+  double psp = 0;
+  double cd = 0;
+  Single pspSingle = 0;
+  bool pspKnown = false;
+  bool pspFits = false;
+  bool cdKnown = false;
+  bool bottom = false;
+};
+
 struct TrinityCells {
   unsigned long long modelRevision = 0;
   unsigned long long tieRevision = 0;
   long lastRow = -1;
   bool built = false;
-  std::vector<double> psp[5];
-  std::vector<char> pspKnown[5];
-  std::vector<char> bottom[5];
-  std::vector<double> cd;
-  std::vector<char> cdKnown;
+  std::vector<TrinityRow> rows[5];
 };
 
 // Each bore hole's sections by name: the first with the name itself and the

@@ -159,7 +159,7 @@ void FrmDivider::Combo1_Click(int index) {
   for (int row = 1; row <= 30; ++row) {
     if (SectionTieList(row, 0).ToText() != picked) continue;
     Label2(index).Caption = "= " + SectionTieList(row, 1).ToText() + " cm";
-    const Single psp = CSng(Val(SectionTieList(row, 1).ToText()));
+    const Single psp = CSng(SectionTieList(row, 1).TextValue());
     if (index == 0) {
       TieAbovePSP = psp;
       TieAboveLabel = SectionTieList(row, 0).ToText();

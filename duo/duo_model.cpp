@@ -57,7 +57,7 @@ void TieRowsToMaster() {
     }
     const int section = SectionOrdinalByName(masterSet, hole, MasterTrinity(2, r).ToText());
     MasterDepth(1, r) =
-        CompositeFromTrinity(masterSet, hole, section, CSng(Val(MasterTrinity(3, r).ToText())));
+        CompositeFromTrinity(masterSet, hole, section, CSng(MasterTrinity(3, r).TextValue()));
   }
 }
 

@@ -23,10 +23,6 @@ bool Wants(int scale) {
   return (ToMask & scale) != 0;
 }
 
-double NumberOf(const Variant& cell) {
-  return Val(cell.ToText());
-}
-
 // The age of one EFD with its errors and unit, as one GetAgeFromEFD gives them.
 struct AgeCells {
   Single age;
@@ -36,7 +32,7 @@ struct AgeCells {
 };
 
 AgeCells AgeOfEfd(BoreHoleSet& set, const Variant& efdCell) {
-  const Single efd = CSng(NumberOf(efdCell));
+  const Single efd = CSng(efdCell.TextValue());
   const double age = GetAgeFromEFD(set, efd).ToDouble();
   AgeCells cells{CSng(Round(age, AgePrecision)), CSng(Round(set.AgeErrorPlus, AgePrecision)),
                  CSng(Round(set.AgeErrorMinus, AgePrecision)), Variant()};
@@ -85,7 +81,7 @@ void MasterColumn(const BoreHoleSet& set, FieldWriter& row, bool header, const V
   if (header) {
     row.Text("Composite depth (" + frm2Main->Label1(0).Caption.Get() + ")");
   } else {
-    row.Number(DuoToMaster(CSng(NumberOf(duoCd))));
+    row.Number(DuoToMaster(CSng(duoCd.TextValue())));
   }
 }
 
@@ -118,7 +114,7 @@ void AgeValueRow(BoreHoleSet& set, FieldWriter& row, long r, const ColumnTitles&
     ErrorCells(row, AgeOfEfd(set, ValueTable(3, r)));
   }
   if (Wants(kScaleComposite)) {
-    const Variant cd = header ? Variant() : EFDToCD(set, CSng(NumberOf(ValueTable(3, r))));
+    const Variant cd = header ? Variant() : EFDToCD(set, CSng(ValueTable(3, r).TextValue()));
     if (header) {
       row.Text(titles.composite);
     } else {
@@ -153,13 +149,19 @@ void WriteConvertedRows(BoreHoleSet& set, MainForm& form, const ColumnTitles& ti
   const long rows = static_cast<long>(positions ? ConversionRows : ValueRows);
   auto writeRow = positions ? PositionRow : FromKind == kScaleAge ? AgeValueRow : DepthValueRow;
   form.ProgressBar1.Max = static_cast<float>(rows);
+  // Rows go to the file some thousand at a time.
+  constexpr std::size_t kWriteFrom = 1 << 16;
+  FieldWriter written;
   for (long r = 0; r <= rows; ++r) {
     form.ProgressBar1.Value = static_cast<float>(r);
-    FieldWriter row;
-    writeRow(set, row, r, titles);
-    row.EndRow();
-    out.Write(row.Content());
+    writeRow(set, written, r, titles);
+    written.EndRow();
+    if (written.Content().size() >= kWriteFrom) {
+      out.Write(written.Content());
+      written.Clear();
+    }
   }
+  out.Write(written.Content());
 }
 
 }  // namespace ostraline

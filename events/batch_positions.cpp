@@ -39,9 +39,8 @@ Variant CompositeInSection(BoreHoleSet& set, int hole, const std::string& sectio
   if (hole < 1 || hole > 4) return Integer(9999);
   const int section = SectionOrdinalByName(set, hole, sectionName);
   if (section == 9999) return Integer(9999);
-  const auto& model = std::as_const(set.ModelCell);
-  const double top = Val(model(0, hole, 1, set.SectionTopRow(hole, section)));
-  const double bottom = Val(model(0, hole, 1, set.SectionBottomRow(hole, section)));
+  const double top = ModelPspValue(set, hole, set.SectionTopRow(hole, section));
+  const double bottom = ModelPspValue(set, hole, set.SectionBottomRow(hole, section));
   if (psp < top || psp > bottom) return Integer(9999);
   return CompositeFromTrinity(set, hole, section, CSng(psp));
 }
@@ -77,11 +76,11 @@ void ConvertPositionRows(BoreHoleSet& set, MainForm& form) {
     } else {
       ConversionTable(4, row) =
           CompositeOfPosition(set, HoleNumber(set, other, ConversionTable(1, row).ToText()),
-                              ConversionTable(2, row).ToText(), Val(psp.ToText()));
+                              ConversionTable(2, row).ToText(), psp.TextValue());
     }
     if (set.EventListLoaded) {
       const Variant cd = ConversionTable(4, row);
-      ConversionTable(5, row) = IsNoValue(cd) ? cd : CDToEFD(set, CSng(Val(cd.ToText())));
+      ConversionTable(5, row) = IsNoValue(cd) ? cd : CDToEFD(set, CSng(cd.TextValue()));
     }
   }
 }

@@ -36,7 +36,7 @@ bool ConvertValuesFirstPass(BoreHoleSet& set, MainForm& form, const ColumnTitles
   for (long row = 1; row <= ValueRows; ++row) {
     form.ProgressBar1.Value = static_cast<float>(row);
     const Variant& value = ValueTable(2, row);
-    ValueTable(3, row) = IsNoValue(value) ? value : convert(set, CSng(Val(value.ToText())));
+    ValueTable(3, row) = IsNoValue(value) ? value : convert(set, CSng(value.TextValue()));
   }
   return true;
 }

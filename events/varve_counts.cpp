@@ -49,22 +49,46 @@ void SetVarveLimits(BoreHoleSet& set) {
 
 namespace {
 
+// What the searches know of the record, read anew when it has changed.
+const MarkerOrder& Order(BoreHoleSet& set) {
+  const Table<Single, 2>& counts = set.VarveCounts;
+  MarkerOrder& order = set.Derived.varveMarkers;
+  if (order.built && order.markerRevision == counts.Revision(0) &&
+      order.countRevision == counts.Revision(1)) {
+    return order;
+  }
+  const long last = counts.UBound(2);
+  order.rising = true;
+  for (long i = 2; i <= last && order.rising; ++i) order.rising = counts(0, i - 1) <= counts(0, i);
+  // Whole counts within 2^22 give intervals a Single holds exactly; their
+  // magnitudes summed below 2^24, every partial sum is exact as well.
+  constexpr double kExactCount = 1 << 22;
+  constexpr double kExactSum = 1 << 24;
+  order.wholeCounts = true;
+  order.counted.assign(static_cast<std::size_t>(last + 1), 0);
+  double magnitudes = 0;
+  for (long i = 0; i <= last && order.wholeCounts; ++i) {
+    const double count = counts(1, i);
+    order.wholeCounts = std::trunc(count) == count && std::fabs(count) <= kExactCount;
+    if (i == 0) continue;
+    const double interval = counts(1, i) - counts(1, i - 1);
+    magnitudes += std::fabs(interval);
+    order.wholeCounts = order.wholeCounts && magnitudes < kExactSum;
+    order.counted[static_cast<std::size_t>(i)] = order.counted[static_cast<std::size_t>(i - 1)] + interval;
+  }
+  order.markerRevision = counts.Revision(0);
+  order.countRevision = counts.Revision(1);
+  order.built = true;
+  return order;
+}
+
 // Rows 1 on of the record's markers, when they never fall and end below
 // `beyond`: then a search finds where a walk from the first marker would
 // begin to count, and where it would stop.
 bool MarkersRiseBeyond(BoreHoleSet& set, Single beyond) {
   const Table<Single, 2>& counts = set.VarveCounts;
   if (!FastLookups || !counts.Allocated() || counts.UBound(2) < 1) return false;
-  MarkerOrder& order = set.Derived.varveMarkers;
-  if (!order.built || order.revision != counts.Revision(0)) {
-    order.rising = true;
-    for (long i = 2; i <= counts.UBound(2) && order.rising; ++i) {
-      order.rising = counts(0, i - 1) <= counts(0, i);
-    }
-    order.revision = counts.Revision(0);
-    order.built = true;
-  }
-  return order.rising && beyond < counts(0, counts.UBound(2));
+  return Order(set).rising && beyond < counts(0, counts.UBound(2));
 }
 
 // The first row from 1 on whose marker lies beyond `depth`, in a rising record.
@@ -84,6 +108,41 @@ long FirstMarkerBeyond(const Table<Single, 2>& counts, Single depth) {
 
 }  // namespace
 
+namespace {
+
+// The first row from `from` on whose marker lies at or beyond `depth` (or
+// beyond it, when `beyond`), in a rising record; `end` if none before it.
+long FirstMarkerFrom(const Table<Single, 2>& counts, long from, long end, Single depth,
+                     bool beyond) {
+  while (from < end) {
+    const long middle = from + (end - from) / 2;
+    const Single marker = counts(0, middle);
+    if (beyond ? marker > depth : marker >= depth) {
+      end = middle;
+    } else {
+      from = middle + 1;
+    }
+  }
+  return from;
+}
+
+// The intervals of rows from..end-1 summed as the walk sums them, one by
+// one from zero; at once where every partial sum is exact.
+Single IntervalsOf(BoreHoleSet& set, long from, long end) {
+  Single sum = 0;
+  if (from >= end) return sum;
+  const MarkerOrder& order = Order(set);
+  if (order.wholeCounts) {
+    return static_cast<Single>(order.counted[static_cast<std::size_t>(end - 1)] -
+                               order.counted[static_cast<std::size_t>(from - 1)]);
+  }
+  const Table<Single, 2>& counts = set.VarveCounts;
+  for (long i = from; i < end; ++i) sum += counts(1, i) - counts(1, i - 1);
+  return sum;
+}
+
+}  // namespace
+
 VarveSums VarveSumsAt(BoreHoleSet& set, Single depth, Single lowerDepth, Single upperDepth) {
   const Table<Single, 2>& counts = set.VarveCounts;
   VarveSums sums;
@@ -91,8 +150,21 @@ VarveSums VarveSumsAt(BoreHoleSet& set, Single depth, Single lowerDepth, Single 
   // The walk adds nothing until a marker passes both the lower point and the
   // depth, nor after the first beyond the upper point.
   const Single start = std::min(lowerDepth, depth);
-  if (start == start && MarkersRiseBeyond(set, upperDepth))
+  const bool searchable = start == start && depth == depth && lowerDepth == lowerDepth &&
+                          upperDepth == upperDepth && MarkersRiseBeyond(set, upperDepth);
+  if (searchable) {
     first = FirstMarkerBeyond(counts, start);
+    // The walk's rows run to the first marker beyond the upper point; in a
+    // rising record those of each side lie together.
+    const long end = FirstMarkerFrom(counts, first, counts.UBound(2), upperDepth, true) + 1;
+    const long belowFrom = FirstMarkerFrom(counts, first, end, lowerDepth, true);
+    const long belowEnd = FirstMarkerFrom(counts, belowFrom, end, depth, false);
+    const long aboveFrom = FirstMarkerFrom(counts, first, end, depth, true);
+    const long aboveEnd = FirstMarkerFrom(counts, aboveFrom, end, upperDepth, false);
+    sums.below = IntervalsOf(set, belowFrom, belowEnd);
+    sums.above = IntervalsOf(set, aboveFrom, aboveEnd);
+    return sums;
+  }
   for (long i = first;; ++i) {
     const Single interval = counts(1, i) - counts(1, i - 1);
     const Single marker = counts(0, i);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <fstream>
 
+#include "runtime/general_format.h"
 #include "runtime/number_text.h"
 
 namespace ostraline {
@@ -141,16 +142,21 @@ void FieldWriter::Text(const std::string& text) {
 
 void FieldWriter::Number(double value) {
   Separate();
-  out_ += Str(value);
+  AppendGeneral(out_, value);
 }
 
 void FieldWriter::Number(float value) {
   Separate();
-  out_ += Str(value);
+  AppendGeneral(out_, value);
 }
 
 void FieldWriter::Value(const Variant& value) {
-  if (value.IsText()) {
+  // A number as its text would have it, written where it goes.
+  if (value.IsSingle()) {
+    Number(value.ToSingle());
+  } else if (value.IsDouble()) {
+    Number(value.ToDouble());
+  } else if (value.IsText()) {
     Text(value.ToText());
   } else {
     Separate();

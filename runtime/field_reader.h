@@ -70,6 +70,11 @@ class FieldWriter {
   void Value(const Variant& value);
   void EndRow();
   const std::string& Content() const { return out_; }
+  // Forgets the rows written so far, keeping the room they took.
+  void Clear() {
+    out_.clear();
+    rowStarted_ = false;
+  }
 
  private:
   void Separate();

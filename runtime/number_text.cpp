@@ -4,6 +4,9 @@
 #include <cfloat>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
+
+#include "runtime/general_format.h"
 
 namespace ostraline {
 namespace {
@@ -12,37 +15,39 @@ bool IsDigit(char c) {
   return c >= '0' && c <= '9';
 }
 
-// The numeric text at the start of a run of characters, in the form NumberValue
-// reads ("D" exponents become "E"). Blanks have already been taken out.
-std::string LeadingNumber(std::string_view s) {
-  std::string out;
+// The length of the numeric text at the start of a run of characters, and
+// where its exponent letter stands (npos for none): an optional sign, digits
+// with at most one point, and an exponent only where it has digits.
+struct NumberSpan {
+  std::size_t length = 0;
+  std::size_t exponent = std::string_view::npos;
+};
+
+NumberSpan LeadingNumber(std::string_view s) {
   std::size_t i = 0;
-  if (i < s.size() && (s[i] == '+' || s[i] == '-')) out += s[i++];
+  if (i < s.size() && (s[i] == '+' || s[i] == '-')) ++i;
   bool digits = false;
   while (i < s.size() && IsDigit(s[i])) {
-    out += s[i++];
+    ++i;
     digits = true;
   }
   if (i < s.size() && s[i] == '.') {
-    out += s[i++];
+    ++i;
     while (i < s.size() && IsDigit(s[i])) {
-      out += s[i++];
+      ++i;
       digits = true;
     }
   }
   if (!digits) return {};
+  NumberSpan span{i};
   if (i < s.size() && (s[i] == 'E' || s[i] == 'e' || s[i] == 'D' || s[i] == 'd')) {
     std::size_t j = i + 1;
-    std::string exponent = "E";
-    if (j < s.size() && (s[j] == '+' || s[j] == '-')) exponent += s[j++];
-    bool expDigits = false;
-    while (j < s.size() && IsDigit(s[j])) {
-      exponent += s[j++];
-      expDigits = true;
-    }
-    if (expDigits) out += exponent;
+    if (j < s.size() && (s[j] == '+' || s[j] == '-')) ++j;
+    const std::size_t first = j;
+    while (j < s.size() && IsDigit(s[j])) ++j;
+    if (j > first) span = {j, i};
   }
-  return out;
+  return span;
 }
 
 double RadixValue(std::string_view s, int radix) {
@@ -67,7 +72,7 @@ double RadixValue(std::string_view s, int radix) {
 // Whether a number text beyond the range of a double is too large rather
 // than too small.
 bool BeyondLargest(std::string_view number) {
-  const std::size_t e = std::min(number.find('E'), number.size());
+  const std::size_t e = std::min(number.find_first_of("Ee"), number.size());
   const std::string_view mantissa = number.substr(0, e);
   const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
   const std::size_t first = mantissa.find_first_of("123456789");
@@ -85,11 +90,62 @@ bool BeyondLargest(std::string_view number) {
   return scale + (negative ? -exponent : exponent) >= 0;
 }
 
-// The value of a text as LeadingNumber gives it. Read without the C locale:
-// the desktop toolkit installs the user's, whose decimal comma would make
-// "1.5" read as 1.
-double NumberValue(std::string_view number) {
-  if (!number.empty() && number.front() == '+') number.remove_prefix(1);
+// The value of a number text of at most 19 significant digits whose power
+// of ten a Double holds exactly: the whole of its digits times or over that
+// power, a single rounding as the full reader makes. False for any other.
+bool ShortDecimalValue(std::string_view number, NumberSpan span, double& value) {
+  static constexpr double kExact[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                      1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                      1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+  const std::size_t end = std::min(span.exponent, number.size());
+  std::size_t i = number[0] == '+' || number[0] == '-' ? 1 : 0;
+  std::uint64_t whole = 0;
+  int digits = 0;
+  int scale = 0;
+  bool point = false;
+  for (; i < end; ++i) {
+    if (number[i] == '.') {
+      point = true;
+      continue;
+    }
+    if (whole == 0 && number[i] == '0') {
+      if (point) --scale;
+      continue;
+    }
+    if (++digits > 19) return false;
+    whole = whole * 10 + static_cast<std::uint64_t>(number[i] - '0');
+    if (point) --scale;
+  }
+  if (end < number.size()) {
+    std::size_t j = end + 1;
+    const bool negative = number[j] == '-';
+    if (number[j] == '-' || number[j] == '+') ++j;
+    if (number.size() - j > 4) return false;
+    int exponent = 0;
+    for (; j < number.size(); ++j) exponent = exponent * 10 + (number[j] - '0');
+    scale += negative ? -exponent : exponent;
+  }
+  if (whole == 0 || whole > (std::uint64_t{1} << 53) || scale < -22 || scale > 22) return false;
+  const auto mantissa = static_cast<double>(whole);
+  value = scale < 0 ? mantissa / kExact[-scale] : mantissa * kExact[scale];
+  if (number[0] == '-') value = -value;
+  return true;
+}
+
+// The value of the numeric text at the start of a run of characters, a
+// "D" exponent read as an "E". Read without the C locale: the desktop
+// toolkit installs the user's, whose decimal comma would make "1.5" read as 1.
+double NumberValue(std::string_view text, NumberSpan span) {
+  std::string_view number = text.substr(0, span.length);
+  if (double value = 0; ShortDecimalValue(number, span, value)) return value;
+  std::string spelled;
+  if (span.exponent != std::string_view::npos &&
+      (number[span.exponent] == 'D' || number[span.exponent] == 'd')) {
+    spelled.assign(number);
+    spelled[span.exponent] = 'E';
+    number = spelled;
+  }
+  if (number.front() == '+') number.remove_prefix(1);
   double value = 0;
   const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
   if (result.ec == std::errc::result_out_of_range) {
@@ -99,30 +155,25 @@ double NumberValue(std::string_view number) {
   return value;
 }
 
-// printf's %G, written without the C locale for the same reason.
-std::string FormatG(double value, int digits) {
-  if (value == 0) return "0";  // also drops the sign of a negative zero
-  char buf[64];
-  const char* end =
-      std::to_chars(buf, buf + sizeof buf, value, std::chars_format::general, digits).ptr;
-  return UCase(std::string_view(buf, static_cast<std::size_t>(end - buf)));
-}
-
 }  // namespace
 
 double Val(std::string_view text) {
-  std::string s;
-  s.reserve(text.size());
-  for (char c : text) {
-    if (c != ' ' && c != '\t' && c != '\n') s += c;
+  // Most cells hold no blank: they are read where they stand.
+  std::string compact;
+  if (std::any_of(text.begin(), text.end(), [](char c) { return c == ' ' || c == '\t' || c == '\n'; })) {
+    compact.reserve(text.size());
+    for (char c : text) {
+      if (c != ' ' && c != '\t' && c != '\n') compact += c;
+    }
+    text = compact;
   }
-  if (s.size() >= 2 && s[0] == '&') {
-    if (s[1] == 'H' || s[1] == 'h') return RadixValue(std::string_view(s).substr(2), 16);
-    if (s[1] == 'O' || s[1] == 'o') return RadixValue(std::string_view(s).substr(2), 8);
+  if (text.size() >= 2 && text[0] == '&') {
+    if (text[1] == 'H' || text[1] == 'h') return RadixValue(text.substr(2), 16);
+    if (text[1] == 'O' || text[1] == 'o') return RadixValue(text.substr(2), 8);
   }
-  const std::string number = LeadingNumber(s);
-  if (number.empty()) return 0.0;
-  return NumberValue(number);
+  const NumberSpan span = LeadingNumber(text);
+  if (span.length == 0) return 0.0;
+  return NumberValue(text, span);
 }
 
 bool IsNumeric(std::string_view text) {
@@ -131,17 +182,15 @@ bool IsNumeric(std::string_view text) {
   while (b < e && (text[b] == ' ' || text[b] == '\t')) ++b;
   while (e > b && (text[e - 1] == ' ' || text[e - 1] == '\t')) --e;
   const std::string_view core = text.substr(b, e - b);
-  if (core.empty()) return false;
-  // "1.5D3" reads as "1.5E3", of the same length, so a length test suffices.
-  return LeadingNumber(core).size() == core.size();
+  return !core.empty() && LeadingNumber(core).length == core.size();
 }
 
 double CDbl(std::string_view text) {
   if (!IsNumeric(text)) Fail(FailureKind::TypeMismatch, std::string(text));
   std::size_t b = 0;
   while (text[b] == ' ' || text[b] == '\t') ++b;
-  const std::string number = LeadingNumber(text.substr(b));
-  const double v = NumberValue(number);
+  const std::string_view number = text.substr(b);
+  const double v = NumberValue(number, LeadingNumber(number));
   if (std::isinf(v)) Fail(FailureKind::Overflow, std::string(text));
   return v;
 }
@@ -162,10 +211,10 @@ float CSng(std::string_view text) {
 }
 
 std::string Str(float value) {
-  return FormatG(value, 7);
+  return GeneralText(value);
 }
 std::string Str(double value) {
-  return FormatG(value, 15);
+  return GeneralText(value);
 }
 std::string Str(long long value) {
   return std::to_string(value);

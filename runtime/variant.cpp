@@ -1,5 +1,6 @@
 #include "runtime/variant.h"
 
+#include "runtime/general_format.h"
 #include "runtime/number_text.h"
 
 namespace ostraline {
@@ -106,6 +107,14 @@ std::string Variant::ToText() const {
   if (IsSingle()) return Str(Get<float>());
   if (IsDouble()) return Str(Get<double>());
   return std::string(Text());
+}
+
+double Variant::TextValue() const {
+  if (IsEmpty()) return 0.0;
+  if (IsWhole()) return Get<std::int32_t>();
+  if (IsSingle()) return PrintedValue(Get<float>());
+  if (IsDouble()) return PrintedValue(Get<double>());
+  return Val(Text());
 }
 
 }  // namespace ostraline

@@ -44,6 +44,8 @@ class Variant {
   float ToSingle() const;
   // As text: numbers by Str at their own precision, empty as "".
   std::string ToText() const;
+  // What Val reads from that text, found without writing it.
+  double TextValue() const;
 
   // Equal only in the same kind: a whole 1 is not a double 1, and a NaN is
   // equal to nothing.

@@ -74,9 +74,20 @@ std::string Sweep() {
       out << "varves fail " << FailureName(failure.Kind()) << "\n";
     }
   }
+  // Control points exactly at markers, which count for neither side.
+  for (long i = 1; i + 60 <= VarveCountRows; i += 97) {
+    const VarveSums sums =
+        VarveSumsAt(VarveCounts(0, i + 20), VarveCounts(0, i), VarveCounts(0, i + 60));
+    out << "pair " << sums.below << " " << sums.above << "\n";
+  }
   for (int hole = 0; hole <= 5; ++hole) {
     for (const char* name : {"01", "5", "005", "12", "29", "44", "99", "abc"}) {
       out << "section " << SectionOrdinalByName(hole, name).Get() << "\n";
+    }
+    if (hole >= 1 && hole <= 4) {
+      for (long row = 0; row <= LastRow; ++row) {
+        out << "psp " << Str(ModelPspValue(masterSet, hole, row)) << "\n";
+      }
     }
     for (int section = 0; section <= 46; section += 3) {
       for (double psp = -5; psp < 210; psp += 11.3) {
@@ -127,8 +138,11 @@ class FastLookups : public FreshProgram {
 TEST_F(FastLookups, SameResultsOnTheSampleAndOnItsSpoiledCopies) {
   ExpectSameSweep("the sample project");
 
-  // Cells that are no numbers and 9999 cells in the model.
-  ModelCell(0, 1, 1, 150) = "abc";
+  // Cells that are no numbers, a PSP beyond a Single, and 9999 cells in the model.
+  ModelCell(0, 1, 1, 150) = "12abc";
+  long tie = SectionTopRow(3, 3) + 1;
+  while (TieCell(1, tie) == "9999") ++tie;
+  ModelCell(0, 3, 1, tie) = "1e39";
   ModelCell(0, 2, 1, 300) = "9999";
   TieCell(1, 160) = "9999";
   TieCell(1, 170) = "";
@@ -142,6 +156,10 @@ TEST_F(FastLookups, SameResultsOnTheSampleAndOnItsSpoiledCopies) {
   ExpectSameSweep("ages out of order");
   AgeModel(11, 14) = "n/a";
   ExpectSameSweep("an EFD that is no number");
+
+  // A count that is no whole number: the sums are added one by one.
+  VarveCounts(1, 55) += 0.25f;
+  ExpectSameSweep("a count that is no whole number");
 
   // A marker out of order, and layers whose bottoms fall.
   VarveCounts(0, 40) = VarveCounts(0, 10);

@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <bit>
+#include <charconv>
 #include <cmath>
+#include <cstdint>
+#include <random>
 #include <string>
 
 #include "runtime/checked_int.h"
@@ -49,6 +53,28 @@ TEST(NumberTextTest, valReadsLeadingNumericTextAndNeverFails) {
   EXPECT_TRUE(std::isinf(Val("1" + std::string(800, '0') + "E-400")));
   EXPECT_EQ(Val("0." + std::string(400, '0') + "1"), 0.0);
   EXPECT_EQ(Val("0." + std::string(399, '0') + "1E500"), 1e100);
+}
+
+// Short decimals take a shorter way than long ones: both read as the
+// standard reader reads them, to the last bit.
+TEST(NumberTextTest, valReadsEveryDecimalAsTheStandardReaderDoes) {
+  std::mt19937 draw(20261123);
+  for (int i = 0; i < 200000; ++i) {
+    std::string text = draw() % 4 == 0 ? "-" : "";
+    const int digits = 1 + static_cast<int>(draw() % 24);
+    const int point = static_cast<int>(draw() % (digits + 2));
+    for (int d = 0; d < digits; ++d) {
+      if (d == point) text += '.';
+      text += static_cast<char>('0' + (draw() % 3 == 0 ? 0 : draw() % 10));
+    }
+    if (draw() % 3 == 0) text += "E" + std::to_string(static_cast<int>(draw() % 70) - 35);
+    double expected = 0;
+    std::from_chars(text.data(), text.data() + text.size(), expected);
+    ASSERT_EQ(std::bit_cast<std::uint64_t>(Val(text)), std::bit_cast<std::uint64_t>(expected))
+        << text;
+    ASSERT_EQ(std::bit_cast<std::uint64_t>(CDbl(text)), std::bit_cast<std::uint64_t>(expected))
+        << text;
+  }
 }
 
 TEST(NumberTextTest, strictConversionsFailOnTextThatIsNoNumber) {

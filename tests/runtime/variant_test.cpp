@@ -63,6 +63,7 @@ struct Reference {
         return {};
     }
   }
+  double TextValue() const { return Val(ToText()); }
 };
 
 // Everything a reader can learn of a value; numbers by their bits, so that
@@ -73,6 +74,7 @@ struct Seen {
   std::optional<FailureKind> doubleFailure, singleFailure;
   std::uint64_t doubleBits = 0;
   std::uint32_t singleBits = 0;
+  std::uint64_t textValueBits = 0;
   bool operator==(const Seen&) const = default;
 };
 
@@ -81,6 +83,7 @@ Seen See(const V& v) {
   Seen seen;
   seen.kinds = {v.IsEmpty(), v.IsWhole(), v.IsSingle(), v.IsDouble(), v.IsText(), v.IsNumber()};
   seen.text = v.ToText();
+  seen.textValueBits = std::bit_cast<std::uint64_t>(v.TextValue());
   seen.doubleFailure =
       FailureOf([&] { seen.doubleBits = std::bit_cast<std::uint64_t>(v.ToDouble()); });
   seen.singleFailure =

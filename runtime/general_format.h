@@ -1,0 +1,26 @@
+#pragma once
+// printf's %G of a Single at 7 and of a Double at 15 significant digits, in
+// capitals and without the C locale: the desktop toolkit installs the user's
+// locale, whose decimal comma would be written otherwise.
+#include <string>
+
+namespace ostraline {
+
+// The number rounded to its digits the long way, as the formatting of the
+// run-time library does it.
+std::string RoundedGeneral(double value, int digits);
+
+// The same text, rounded in whole numbers of 128 bits from the number's
+// binary digits wherever they hold it, which is almost always; the long way
+// otherwise.
+std::string GeneralText(float value);
+std::string GeneralText(double value);
+// The same text at the end of another.
+void AppendGeneral(std::string& out, float value);
+void AppendGeneral(std::string& out, double value);
+
+// What Val reads from that text, found without writing it.
+double PrintedValue(float value);
+double PrintedValue(double value);
+
+}  // namespace ostraline

@@ -1,0 +1,94 @@
+// The short way to a number's text, and to what it reads back as, against
+// the long way: every Single of the ranges where the neighbours lie far
+// apart, and numbers of every magnitude drawn at random.
+#include "runtime/general_format.h"
+
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <random>
+#include <string>
+
+#include "runtime/number_text.h"
+
+namespace ostraline {
+namespace {
+
+// The same text, and the same number read back from it, to the last bit.
+void ExpectSameText(float value) {
+  const std::string text = RoundedGeneral(value, 7);
+  ASSERT_EQ(GeneralText(value), text) << std::bit_cast<std::uint32_t>(value);
+  ASSERT_EQ(std::bit_cast<std::uint64_t>(PrintedValue(value)), std::bit_cast<std::uint64_t>(Val(text)))
+      << text;
+}
+void ExpectSameText(double value) {
+  const std::string text = RoundedGeneral(value, 15);
+  ASSERT_EQ(GeneralText(value), text) << std::bit_cast<std::uint64_t>(value);
+  ASSERT_EQ(std::bit_cast<std::uint64_t>(PrintedValue(value)), std::bit_cast<std::uint64_t>(Val(text)))
+      << text;
+}
+
+// Every Single from one to the other, both included.
+void EverySingleBetween(float from, float to) {
+  for (float f = from; f <= to; f = std::nextafter(f, to + 1)) {
+    ExpectSameText(f);
+    ExpectSameText(-f);
+    if (f == to) break;
+  }
+}
+
+TEST(GeneralFormatTest, shortDigitsGiveTheRoundedTextOfEverySingle) {
+  // Where a Single's neighbours lie farther apart than the seventh digit
+  // counts: just below a thousandth, a millionth, and the like.
+  EverySingleBetween(0.0009765625f, 0.001f);
+  EverySingleBetween(9.5367431640625e-07f, 1e-06f);
+  EverySingleBetween(8388600.0f, 10000000.0f);
+  // Around every power of ten, and the numbers a depth file holds.
+  for (int e = -38; e <= 38; ++e) {
+    const float p = static_cast<float>(std::pow(10.0, e));
+    float f = p;
+    for (int i = 0; i < 200; ++i) f = std::nextafter(f, 0.0f);
+    for (int i = 0; i < 400; ++i, f = std::nextafter(f, INFINITY)) ExpectSameText(f);
+  }
+  for (int tenths = -100000; tenths <= 1000000; ++tenths) {
+    ExpectSameText(static_cast<float>(tenths) / 10);
+    ExpectSameText(static_cast<float>(tenths / 10.0));
+  }
+  std::mt19937 draw(20261123);
+  for (int i = 0; i < 300000; ++i) {
+    ExpectSameText(std::bit_cast<float>(static_cast<std::uint32_t>(draw())));
+    ExpectSameText(std::ldexp(static_cast<float>(draw() % 16777216), static_cast<int>(draw() % 80) - 100));
+  }
+  // Halves at the eighth digit round to the even seventh.
+  for (float f : {1234567.5f, 1234566.5f, 9999999.5f, 0.0f, -0.0f, std::numeric_limits<float>::denorm_min(),
+                  std::numeric_limits<float>::min(), std::numeric_limits<float>::max(), INFINITY,
+                  -INFINITY, NAN}) {
+    ExpectSameText(f);
+  }
+}
+
+TEST(GeneralFormatTest, shortDigitsGiveTheRoundedTextOfEveryDouble) {
+  std::mt19937_64 draw(20261123);
+  for (int i = 0; i < 300000; ++i) {
+    ExpectSameText(std::bit_cast<double>(draw()));
+    ExpectSameText(std::ldexp(static_cast<double>(draw() >> 11), static_cast<int>(draw() % 120) - 140));
+  }
+  // Sums and quotients with sixteen or seventeen shortest digits.
+  for (int i = 1; i <= 100000; ++i) {
+    ExpectSameText(i / 10.0 + 0.2);
+    ExpectSameText(1.0 / i);
+    ExpectSameText(static_cast<double>(static_cast<float>(i) / 7));
+  }
+  for (double d : {0.0, -0.0, std::numeric_limits<double>::denorm_min(),
+                   std::numeric_limits<double>::min(), std::numeric_limits<double>::max(), 1e15,
+                   999999999999999.9, 123456789012345.5, 123456789012344.5, 1e-5, 0.0001, 123456789012345.0, 1234567890123456.0}) {
+    ExpectSameText(d);
+    ExpectSameText(-d);
+  }
+}
+
+}  // namespace
+}  // namespace ostraline
