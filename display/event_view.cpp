@@ -103,7 +103,8 @@ void DrawEvents(BoreHoleSet& set) {
     const bool inView = (edges.lower >= top && edges.lower <= bottom) ||
                         (edges.upper >= top && edges.upper <= bottom) ||
                         (edges.upper <= top && edges.lower >= bottom);
-    if (!inView) continue;
+    // A bore hole that the set does not know has no column to take the layer.
+    if (!inView || BHNo(set, set.EventList(1, r)) == -9999) continue;
     const std::string& description = set.EventList(5, r);
     if (IsTephra(description)) {
       tephras.push_back(r);

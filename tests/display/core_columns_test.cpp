@@ -460,6 +460,17 @@ TEST_F(EventView, tephrasLieOverLayersAndVoidsOverBoth) {
   EXPECT_TRUE(IsBand(Drawn(1)[0], kYellow, 100, 100));
 }
 
+// A layer of a bore hole that the set does not know has the depth 9999: a
+// view brought down there leaves it out and draws the others.
+TEST_F(EventView, aLayerOfAnUnknownBoreHoleIsLeftOut) {
+  LoadLayers({{"Q", "Tephra Q", "9990", "10010"}, {"A", "Sand", "9995", "9998"}});
+  View(9900, 500);
+  DrawEvents();
+  ASSERT_EQ(Drawn(0).size(), 1u);
+  EXPECT_TRUE(IsBand(Drawn(0)[0], kYellow, 9995, 9998));
+  EXPECT_EQ(Drawn(1).size(), 1u);
+}
+
 class ScaleStrip : public CoreColumns {
  protected:
   // The form loads first: its defaults must not undo what a test sets.
