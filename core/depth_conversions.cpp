@@ -1,5 +1,6 @@
 #include "core/depth_conversions.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "core/hole_lookup.h"
@@ -61,6 +62,9 @@ struct PlainCells {
   bool Bottom(long row) const {
     return IsSectionBottom(std::as_const(set.ModelCell)(0, hole, 0, row));
   }
+  // Every row is read.
+  long NextStop(long row) const { return row; }
+  long NextCd(long row) const { return row; }
 };
 
 // A cell that is no number sends the lookup back to the plain cells, which
@@ -91,6 +95,8 @@ struct ParsedCells {
     return at.cd;
   }
   bool Bottom(long row) const { return At(row).bottom; }
+  long NextStop(long row) const { return At(row).nextStop; }
+  long NextCd(long row) const { return At(row).nextCd; }
 };
 
 // The model's cells of a bore hole, read anew when the model has changed.
@@ -128,6 +134,19 @@ const TrinityCells* Cells(BoreHoleSet& set, int hole) {
         }
         row.bottom = IsSectionBottom(model(0, h, 0, r));
       }
+      // From the last row up: the next row that may be a tie, a bottom or
+      // a cell that is no number, and the next with a composite depth.
+      long nextStop = last + 1;
+      long nextCd = last + 1;
+      for (long r = last; r >= 0; --r) {
+        TrinityRow& row = cells.rows[h][static_cast<std::size_t>(r)];
+        const bool known = row.pspKnown && row.cdKnown;
+        const bool tie = known && row.psp != 9999 && row.cd != 9999 && row.psp != 0;
+        if (!known || tie || row.bottom) nextStop = r;
+        if (row.cdKnown && row.cd != 9999) nextCd = r;
+        row.nextStop = nextStop;
+        row.nextCd = nextCd;
+      }
     }
     cells.modelRevision = model.Revision(0);
     cells.tieRevision = ties.Revision(1);
@@ -156,6 +175,18 @@ Variant Composite(const BoreHoleSet& set, int hole, int section, Single psp, con
     }
     bool left = false;
     for (long r = TopRowFound + 1; r <= set.LastRow; ++r) {
+      // Rows up to the next that may be a tie or a section's bottom only end
+      // the walk, at the first with a composite depth, when the last tie
+      // already lies at or beyond the PSP.
+      const long stop = std::min<long>(cells.NextStop(r), set.LastRow + 1);
+      if (stop > r) {
+        if (cells.PspSingle(TieRowLast) >= psp && TieRowPrevious != 0 && cells.NextCd(r) < stop) {
+          left = true;
+          break;
+        }
+        r = stop;
+        if (r > set.LastRow) break;
+      }
       const double rowPsp = cells.Psp(r);
       const double rowCd = cells.Cd(r);
       // A row with PSP exactly 0 below the top is never a tie.

@@ -40,10 +40,14 @@ struct MarkerOrder {
 // What the composite depth of a position reads of one row of the model for
 // one bore hole: its PSP, as a Single too, the tie's composite depth, and
 // whether the row ends a section; each number with whether its cell reads
-// as one.
+// as one; and how far the rows that change nothing reach.
 struct TrinityRow {
   double psp = 0;
   double cd = 0;
+  // The next row, from this one on, that may be a tie, ends a section or
+  // holds a cell that is no number; and the next with a composite depth.
+  long nextStop = 0;
+  long nextCd = 0;
   Single pspSingle = 0;
   bool pspKnown = false;
   bool pspFits = false;

@@ -34,8 +34,11 @@ Variant AlphaNum(BoreHoleSet& set, const Variant& letter) {
 
 namespace {
 
+// The name's last three characters, zeros before a shorter one.
 std::string LastThree(const std::string& name) {
-  return Right("000" + name, 3);
+  const std::size_t size = name.size();
+  std::string three(size < 3 ? 3 - size : 0, '0');
+  return three.append(name, size < 3 ? 0 : size - 3);
 }
 
 // The sections of each bore hole by name, read anew when the lists change.

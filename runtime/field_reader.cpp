@@ -91,8 +91,13 @@ FieldReader::Field FieldReader::Next() {
     while (Has(pos_) && !EndsField(content_[pos_])) ++pos_;
   } else {
     const std::size_t start = pos_;
-    while (Has(pos_) && !EndsField(content_[pos_])) ++pos_;
-    field.text = content_.substr(start, pos_ - start);
+    // Through the text at hand, then on into what the file gives next.
+    do {
+      const char* text = content_.data();
+      const std::size_t size = content_.size();
+      while (pos_ < size && !EndsField(text[pos_])) ++pos_;
+    } while (pos_ == content_.size() && ReadOn(pos_));
+    field.text.assign(content_, start, pos_ - start);
   }
   if (Has(pos_) && content_[pos_] == ',') {
     ++pos_;

@@ -176,21 +176,31 @@ double Val(std::string_view text) {
   return NumberValue(text, span);
 }
 
-bool IsNumeric(std::string_view text) {
+namespace {
+
+// The text without its leading and trailing blanks and tabs.
+std::string_view Core(std::string_view text) {
   std::size_t b = 0;
   std::size_t e = text.size();
   while (b < e && (text[b] == ' ' || text[b] == '\t')) ++b;
   while (e > b && (text[e - 1] == ' ' || text[e - 1] == '\t')) --e;
-  const std::string_view core = text.substr(b, e - b);
+  return text.substr(b, e - b);
+}
+
+}  // namespace
+
+bool IsNumeric(std::string_view text) {
+  const std::string_view core = Core(text);
   return !core.empty() && LeadingNumber(core).length == core.size();
 }
 
 double CDbl(std::string_view text) {
-  if (!IsNumeric(text)) Fail(FailureKind::TypeMismatch, std::string(text));
-  std::size_t b = 0;
-  while (text[b] == ' ' || text[b] == '\t') ++b;
-  const std::string_view number = text.substr(b);
-  const double v = NumberValue(number, LeadingNumber(number));
+  const std::string_view core = Core(text);
+  const NumberSpan span = LeadingNumber(core);
+  if (core.empty() || span.length != core.size()) {
+    Fail(FailureKind::TypeMismatch, std::string(text));
+  }
+  const double v = NumberValue(core, span);
   if (std::isinf(v)) Fail(FailureKind::Overflow, std::string(text));
   return v;
 }

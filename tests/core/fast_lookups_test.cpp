@@ -138,14 +138,15 @@ class FastLookups : public FreshProgram {
 TEST_F(FastLookups, SameResultsOnTheSampleAndOnItsSpoiledCopies) {
   ExpectSameSweep("the sample project");
 
-  // Cells that are no numbers, a PSP beyond a Single, and 9999 cells in the model.
-  ModelCell(0, 1, 1, 150) = "12abc";
+  // Cells that are no numbers, a PSP beyond a Single, and 9999 cells in the
+  // model, inside sections that the sweep walks.
+  ModelCell(0, 1, 1, SectionTopRow(1, 6) + 2) = "12abc";
   long tie = SectionTopRow(3, 3) + 1;
   while (TieCell(1, tie) == "9999") ++tie;
   ModelCell(0, 3, 1, tie) = "1e39";
   ModelCell(0, 2, 1, 300) = "9999";
   TieCell(1, 160) = "9999";
-  TieCell(1, 170) = "";
+  TieCell(1, SectionTopRow(2, 9) + 2) = "";
   ExpectSameSweep("model cells spoiled");
 
   // Equal and falling ages and depths in the age-depth model, and a cell
