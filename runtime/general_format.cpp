@@ -38,10 +38,12 @@ struct Digits {
 // even on the exact binary value; false where the product of a whole of so
 // many bits would not fit in 128.
 template <int kBits>
-bool RoundedScaled(Wide whole, int shift, int scaled, Wide& rounded, Wide& truncated) {
+bool RoundedScaled(std::uint64_t whole, int shift, int scaled, Wide& rounded, Wide& truncated) {
   constexpr int kLargestScale = static_cast<int>((128 - kBits) * 0.30102999566398120);
   if (scaled < 0 || scaled > kLargestScale || shift < 0 || shift > 127) return false;
-  const Wide product = whole * kTens.values[scaled];
+  // Powers up to 10^19 fit in 64 bits: one multiplication of two halves.
+  const Wide product = scaled <= 19 ? Wide(whole) * static_cast<std::uint64_t>(kTens.values[scaled])
+                                    : Wide(whole) * kTens.values[scaled];
   truncated = product >> shift;
   rounded = truncated;
   if (shift > 0) {
@@ -85,7 +87,7 @@ bool RoundedTo(T value, int precision, Rounded& out) {
   // The value lies in [2^(top-1), 2^top): its decimal exponent is one of
   // two, and the truncated digits tell which.
   const int top = std::numeric_limits<T>::digits - binary.shift;
-  int exponent = static_cast<int>(std::floor((top - 1) * 0.30102999566398120));
+  int exponent = ((top - 1) * 78913) >> 18;  // floor((top - 1) * log10(2))
   const Wide lowest = kTens.values[precision - 1];
   Wide rounded = 0;
   Wide truncated = 0;

@@ -247,7 +247,9 @@ double Round(double value, int digits) {
   if (std::fabs(y) >= 4503599627370496.0) return value;
   // value * p == y + err exactly; the sign of (fraction - 1/2) decides.
   const double err = std::fma(value, p, -y);
-  const double f = std::floor(y);
+  // Below 2^52 a whole number cut from y is its floor, or one above it.
+  double f = static_cast<double>(static_cast<long long>(y));
+  if (f > y) f -= 1;
   const double above = (y - f - 0.5) + err;
   double n = f;
   if (above > 0) {
