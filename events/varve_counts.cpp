@@ -157,11 +157,18 @@ VarveSums VarveSumsAt(BoreHoleSet& set, Single depth, Single lowerDepth, Single 
     // The walk's rows run to the first marker beyond the upper point; in a
     // rising record those of each side lie together.
     const long end = FirstMarkerFrom(counts, first, counts.UBound(2), upperDepth, true) + 1;
-    const long belowFrom = FirstMarkerFrom(counts, first, end, lowerDepth, true);
-    const long belowEnd = FirstMarkerFrom(counts, belowFrom, end, depth, false);
-    const long aboveFrom = FirstMarkerFrom(counts, first, end, depth, true);
+    // The walk began beyond the lower of the lower point and the depth: with
+    // the lower point above the depth its side begins there, else it is empty
+    // and the other side begins there.
+    long belowEnd = first;
+    long aboveFrom = first;
+    if (lowerDepth < depth) {
+      belowEnd = FirstMarkerFrom(counts, first, end, depth, false);
+      aboveFrom = belowEnd;
+      while (aboveFrom < end && !(counts(0, aboveFrom) > depth)) ++aboveFrom;
+    }
     const long aboveEnd = FirstMarkerFrom(counts, aboveFrom, end, upperDepth, false);
-    sums.below = IntervalsOf(set, belowFrom, belowEnd);
+    sums.below = IntervalsOf(set, first, belowEnd);
     sums.above = IntervalsOf(set, aboveFrom, aboveEnd);
     return sums;
   }
