@@ -43,9 +43,12 @@ class CellBlocks {
     for (std::size_t b = kept > 0 ? kept - 1 : 0; b < newBlocks; ++b) {
       std::vector<T>& block = blocks_[b];
       const std::size_t cells = std::min(kBlockCells, count - b * kBlockCells);
-      // Doubling, as a vector grows, but never past a block.
-      if (cells > block.capacity())
-        block.reserve(std::min(kBlockCells, std::max(cells, 2 * block.capacity())));
+      // Doubling, as a vector grows, up to a sixteenth of a block; then the
+      // whole block at once, so that a long table is not moved again and again.
+      if (cells > block.capacity()) {
+        const std::size_t doubled = std::max(cells, 2 * block.capacity());
+        block.reserve(doubled > kBlockCells / 16 ? kBlockCells : doubled);
+      }
       block.resize(cells);
     }
   }
