@@ -58,7 +58,7 @@ Variant CompositeOfPosition(BoreHoleSet& set, int hole, const std::string& secti
 
 bool IsNoValue(const Variant& cell) {
   if (cell.IsEmpty()) return false;
-  if (cell.IsText() && !IsNumeric(cell.ToText())) return false;
+  if (cell.IsText() && !IsNumeric(cell.TextView())) return false;
   const double value = cell.ToDouble();
   return value == 9999 || value == -9999;
 }

@@ -138,7 +138,7 @@ void FieldWriter::Separate() {
   rowStarted_ = true;
 }
 
-void FieldWriter::Text(const std::string& text) {
+void FieldWriter::Text(std::string_view text) {
   Separate();
   out_ += '"';
   out_ += text;
@@ -162,7 +162,7 @@ void FieldWriter::Value(const Variant& value) {
   } else if (value.IsDouble()) {
     Number(value.ToDouble());
   } else if (value.IsText()) {
-    Text(value.ToText());
+    Text(value.TextView());
   } else {
     Separate();
     out_ += value.ToText();

@@ -5,6 +5,7 @@
 #include <istream>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "runtime/variant.h"
 
@@ -64,7 +65,7 @@ std::string PlaceText(const FieldReader::Place& place);
 
 class FieldWriter {
  public:
-  void Text(const std::string& text);
+  void Text(std::string_view text);
   void Number(double value);
   void Number(float value);
   void Value(const Variant& value);

@@ -46,6 +46,8 @@ class Variant {
   std::string ToText() const;
   // What Val reads from that text, found without writing it.
   double TextValue() const;
+  // A text's characters where they lie, without a copy; nothing for a number.
+  std::string_view TextView() const { return IsText() ? Text() : std::string_view(); }
 
   // Equal only in the same kind: a whole 1 is not a double 1, and a NaN is
   // equal to nothing.
