@@ -128,17 +128,18 @@ void AgeValueRow(BoreHoleSet& set, FieldWriter& row, long r, const ColumnTitles&
 // A position: the file's four columns, then composite depth, EFD and age.
 void PositionRow(BoreHoleSet& set, FieldWriter& row, long r, const ColumnTitles& titles) {
   const bool header = r == 0;
-  for (int column = 0; column <= 3; ++column) row.Value(ConversionTable(column, r));
+  const auto& converted = std::as_const(ConversionTable);
+  for (int column = 0; column <= 3; ++column) row.Value(converted(column, r));
   if (Wants(kScaleComposite)) {
     if (header) {
-      row.Value(ConversionTable(4, 0));
+      row.Value(converted(4, 0));
     } else {
-      row.Number(Round(ConversionTable(4, r).ToDouble(), DepthPrecision));
+      row.Number(Round(converted(4, r).ToDouble(), DepthPrecision));
     }
-    MasterColumn(set, row, header, ConversionTable(4, r));
+    MasterColumn(set, row, header, converted(4, r));
   }
-  if (Wants(kScaleEfd)) row.Value(ConversionTable(5, r));
-  if (Wants(kScaleAge)) AgeColumns(set, row, header, titles, ConversionTable(5, r));
+  if (Wants(kScaleEfd)) row.Value(converted(5, r));
+  if (Wants(kScaleAge)) AgeColumns(set, row, header, titles, converted(5, r));
 }
 
 }  // namespace

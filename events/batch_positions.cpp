@@ -21,7 +21,7 @@ namespace {
 // A bore hole by its letter or by its long title; every hole is tested, so
 // the last that matches wins. With the Duo open the other set's holes follow
 // as 5 to 8.
-int HoleNumber(BoreHoleSet& set, BoreHoleSet& other, const std::string& name) {
+int HoleNumber(const BoreHoleSet& set, const BoreHoleSet& other, const std::string& name) {
   int hole = 9999;
   for (int j = 1; j <= 4; ++j) {
     if (name == set.HoleName(j) || name == set.HoleTitle(j)) hole = j;
@@ -68,18 +68,20 @@ void ConvertPositionRows(BoreHoleSet& set, MainForm& form) {
   form.ProgressBar1.Max = static_cast<float>(ConversionRows);
   form.ProgressBar1.Value = 0;
   form.ProgressBar1.Visible = true;
+  // Reads leave the table's revision as it is.
+  const auto& given = std::as_const(ConversionTable);
   for (long row = 1; row <= ConversionRows; ++row) {
     form.ProgressBar1.Value = static_cast<float>(row);
-    const Variant& psp = ConversionTable(3, row);
+    const Variant& psp = given(3, row);
     if (IsNoValue(psp)) {
       ConversionTable(4, row) = psp;
     } else {
       ConversionTable(4, row) =
-          CompositeOfPosition(set, HoleNumber(set, other, ConversionTable(1, row).ToText()),
-                              ConversionTable(2, row).ToText(), psp.TextValue());
+          CompositeOfPosition(set, HoleNumber(set, other, given(1, row).ToText()),
+                              given(2, row).ToText(), psp.TextValue());
     }
     if (set.EventListLoaded) {
-      const Variant cd = ConversionTable(4, row);
+      const Variant cd = given(4, row);
       ConversionTable(5, row) = IsNoValue(cd) ? cd : CDToEFD(set, CSng(cd.TextValue()));
     }
   }
