@@ -67,14 +67,18 @@ const MarkerOrder& Order(BoreHoleSet& set) {
   order.wholeCounts = true;
   order.counted.assign(static_cast<std::size_t>(last + 1), 0);
   double magnitudes = 0;
+  Single previous = 0;
   for (long i = 0; i <= last && order.wholeCounts; ++i) {
-    const double count = counts(1, i);
+    const Single count = counts(1, i);
     order.wholeCounts = std::trunc(count) == count && std::fabs(count) <= kExactCount;
-    if (i == 0) continue;
-    const double interval = counts(1, i) - counts(1, i - 1);
-    magnitudes += std::fabs(interval);
-    order.wholeCounts = order.wholeCounts && magnitudes < kExactSum;
-    order.counted[static_cast<std::size_t>(i)] = order.counted[static_cast<std::size_t>(i - 1)] + interval;
+    if (i > 0) {
+      const double interval = count - previous;
+      magnitudes += std::fabs(interval);
+      order.wholeCounts = order.wholeCounts && magnitudes < kExactSum;
+      order.counted[static_cast<std::size_t>(i)] =
+          order.counted[static_cast<std::size_t>(i - 1)] + interval;
+    }
+    previous = count;
   }
   order.markerRevision = counts.Revision(0);
   order.countRevision = counts.Revision(1);
@@ -105,10 +109,6 @@ long FirstMarkerBeyond(const Table<Single, 2>& counts, Single depth) {
   }
   return low;
 }
-
-}  // namespace
-
-namespace {
 
 // The first row from `from` on whose marker lies at or beyond `depth` (or
 // beyond it, when `beyond`), in a rising record; `end` if none before it.

@@ -8,6 +8,7 @@
 #include <limits>
 #include <string_view>
 
+#include "runtime/exact_decimal.h"
 #include "runtime/number_text.h"
 
 namespace ostraline {
@@ -127,19 +128,14 @@ bool RoundedDigits(T value, int precision, Digits& digits) {
   return true;
 }
 
-// The Double nearest to the rounded digits: a whole number below 2^53 times
-// or over a power of ten that a Double holds exactly is one rounding away.
+// The Double nearest to the rounded digits.
 template <class T>
 bool NearestToRounded(T value, int precision, double& out) {
-  static constexpr double kExact[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                      1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
-                                      1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
   Rounded rounded;
-  if (!RoundedTo(value, precision, rounded)) return false;
-  const int scale = rounded.exponent - (precision - 1);
-  if (scale < -22 || scale > 22) return false;
-  const auto whole = static_cast<double>(rounded.whole);
-  out = scale < 0 ? whole / kExact[-scale] : whole * kExact[scale];
+  if (!RoundedTo(value, precision, rounded) ||
+      !ExactDecimal(rounded.whole, rounded.exponent - (precision - 1), out)) {
+    return false;
+  }
   if (rounded.negative) out = -out;
   return true;
 }

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstdint>
 
+#include "runtime/exact_decimal.h"
 #include "runtime/general_format.h"
 
 namespace ostraline {
@@ -94,9 +95,6 @@ bool BeyondLargest(std::string_view number) {
 // of ten a Double holds exactly: the whole of its digits times or over that
 // power, a single rounding as the full reader makes. False for any other.
 bool ShortDecimalValue(std::string_view number, NumberSpan span, double& value) {
-  static constexpr double kExact[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                      1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
-                                      1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
   const std::size_t end = std::min(span.exponent, number.size());
   std::size_t i = number[0] == '+' || number[0] == '-' ? 1 : 0;
   std::uint64_t whole = 0;
@@ -125,9 +123,7 @@ bool ShortDecimalValue(std::string_view number, NumberSpan span, double& value) 
     for (; j < number.size(); ++j) exponent = exponent * 10 + (number[j] - '0');
     scale += negative ? -exponent : exponent;
   }
-  if (whole == 0 || whole > (std::uint64_t{1} << 53) || scale < -22 || scale > 22) return false;
-  const auto mantissa = static_cast<double>(whole);
-  value = scale < 0 ? mantissa / kExact[-scale] : mantissa * kExact[scale];
+  if (whole == 0 || !ExactDecimal(whole, scale, value)) return false;
   if (number[0] == '-') value = -value;
   return true;
 }
@@ -238,10 +234,7 @@ std::string PrintedNumber(const std::string& digits) {
 double Round(double value, int digits) {
   if (digits < 0 || digits > 22) Fail(FailureKind::InvalidProcedureCall, "Round digits");
   if (!std::isfinite(value)) return value;
-  static constexpr double kPowers[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                       1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
-                                       1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
-  const double p = kPowers[digits];
+  const double p = kExactPowersOfTen[digits];
   const double y = value * p;
   // Beyond 2^52 every double is whole: nothing to round at this scale.
   if (std::fabs(y) >= 4503599627370496.0) return value;
