@@ -99,17 +99,23 @@ struct ParsedCells {
   long NextCd(long row) const { return At(row).nextCd; }
 };
 
+// Whether the cells were read from the model as it stands: the lookup reads
+// Scale 0 of the model and the composite depths of the ties.
+bool CellsStand(const BoreHoleSet& set) {
+  const TrinityCells& cells = set.Derived.trinity;
+  return cells.built && cells.modelRevision == set.ModelCell.Revision(0) &&
+         cells.tieRevision == set.TieCell.Revision(1) && cells.lastRow == set.LastRow;
+}
+
 // The model's cells of a bore hole, read anew when the model has changed.
-const TrinityCells* Cells(BoreHoleSet& set, int hole) {
+[[gnu::noinline]] const TrinityCells* ReadCells(BoreHoleSet& set, int hole) {
   const Table<std::string, 4>& model = set.ModelCell;
   const Table<std::string, 2>& ties = set.TieCell;
   if (hole < 1 || hole > 4 || !model.Allocated() || !ties.Allocated()) return nullptr;
   const long last = set.LastRow;
   if (last < 0 || last > model.UBound(4) || last > ties.UBound(2)) return nullptr;
   TrinityCells& cells = set.Derived.trinity;
-  // The lookup reads Scale 0 of the model and the composite depths of the ties.
-  if (!cells.built || cells.modelRevision != model.Revision(0) ||
-      cells.tieRevision != ties.Revision(1) || cells.lastRow != last) {
+  if (!CellsStand(set)) {
     cells = TrinityCells{};
     const auto rows = static_cast<std::size_t>(last + 1);
     std::vector<TrinityRow> tieRows(rows);
@@ -154,6 +160,12 @@ const TrinityCells* Cells(BoreHoleSet& set, int hole) {
     cells.built = true;
   }
   return &cells;
+}
+
+// Called for every lookup: the test that the model stands is all it costs then.
+inline const TrinityCells* Cells(BoreHoleSet& set, int hole) {
+  if (hole >= 1 && hole <= 4 && CellsStand(set)) return &set.Derived.trinity;
+  return ReadCells(set, hole);
 }
 
 template <class Cells>

@@ -71,6 +71,10 @@ struct SectionNames {
   long counts[5] = {};
   std::unordered_map<std::string, int> exact[5];
   std::unordered_map<std::string, int> lastThree[5];
+  // The answers given to the names asked since, up to kAskedNames a hole:
+  // a data file asks for the same few sections again and again.
+  static constexpr std::size_t kAskedNames = 4096;
+  std::unordered_map<std::string, int> asked[5];
 };
 
 // The running sums of the two conversions between composite depth and EFD,

@@ -42,7 +42,7 @@ std::string LastThree(const std::string& name) {
 }
 
 // The sections of each bore hole by name, read anew when the lists change.
-const SectionNames* Names(BoreHoleSet& set, int hole) {
+SectionNames* Names(BoreHoleSet& set, int hole) {
   const Table<std::string, 2>& names = set.SectionName;
   if (hole < 1 || hole > 4 || !names.Allocated()) return nullptr;
   const long count = std::as_const(set.SectionCount)(hole);
@@ -52,6 +52,7 @@ const SectionNames* Names(BoreHoleSet& set, int hole) {
       index.counts[hole] != count) {
     index.exact[hole].clear();
     index.lastThree[hole].clear();
+    index.asked[hole].clear();
     for (int i = 1; i <= count; ++i) {
       const std::string& candidate = names(hole, i);
       index.exact[hole].emplace(candidate, i);
@@ -68,18 +69,21 @@ const SectionNames* Names(BoreHoleSet& set, int hole) {
 
 Integer SectionOrdinalByName(BoreHoleSet& set, int hole, const std::string& name) {
   if (hole == 9999 || hole == -9999 || name == "9999" || name == "-9999") return 9999;
-  const std::string wanted = LastThree(name);
   if (FastLookups) {
-    if (const SectionNames* index = Names(set, hole)) {
+    if (SectionNames* index = Names(set, hole)) {
+      std::unordered_map<std::string, int>& asked = index->asked[hole];
+      if (const auto known = asked.find(name); known != asked.end()) return known->second;
       // The scan takes the first section that matches either way.
       int found = 9999;
       const auto exact = index->exact[hole].find(name);
       if (exact != index->exact[hole].end()) found = exact->second;
-      const auto tail = index->lastThree[hole].find(wanted);
+      const auto tail = index->lastThree[hole].find(LastThree(name));
       if (tail != index->lastThree[hole].end()) found = std::min(found, tail->second);
+      if (asked.size() < SectionNames::kAskedNames) asked.emplace(name, found);
       return found;
     }
   }
+  const std::string wanted = LastThree(name);
   try {
     for (int i = 1; i <= set.SectionCount(hole); ++i) {
       const std::string& candidate = set.SectionName(hole, i);

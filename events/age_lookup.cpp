@@ -31,10 +31,9 @@ constexpr int kUnit = 9;
 constexpr int kEfd = 11;
 
 // The numbers of one column, read anew when the table has changed since.
-const NumberColumn& Numbers(BoreHoleSet& set, int column) {
+[[gnu::noinline]] const NumberColumn& ReadNumbers(BoreHoleSet& set, int column) {
   NumberColumn& numbers = set.Derived.ageColumns[column];
   const Table<std::string, 2>& table = set.AgeModel;
-  if (numbers.built && numbers.revision == table.Revision(column)) return numbers;
   const long last = table.Allocated() ? table.UBound(2) : -1;
   const auto rows = static_cast<std::size_t>(last + 1);
   numbers.singles.assign(rows, 0);
@@ -59,6 +58,13 @@ const NumberColumn& Numbers(BoreHoleSet& set, int column) {
   numbers.built = true;
   numbers.risingFor = -1;
   return numbers;
+}
+// Called for every cell a lookup reads: the test that nothing has changed is
+// all it costs then.
+inline const NumberColumn& Numbers(BoreHoleSet& set, int column) {
+  const NumberColumn& numbers = set.Derived.ageColumns[column];
+  if (numbers.built && numbers.revision == set.AgeModel.Revision(column)) return numbers;
+  return ReadNumbers(set, column);
 }
 
 // Comparisons are made single with single, arithmetic in double; a cell that

@@ -1,6 +1,7 @@
 #pragma once
 // The steps of a batch conversion that the two buttons share out: reading the
 // rows given as positions, and writing the converted file's rows.
+#include <optional>
 #include <string>
 
 #include "core/bore_hole_set.h"
@@ -29,6 +30,8 @@ int ChosenScale(const FrmConversion& form);
 
 // A cell that reads as the number 9999 or -9999: no value, passed through.
 bool IsNoValue(const Variant& cell);
+// Nothing for such a cell; what Val reads from it otherwise.
+std::optional<double> ValueOfCell(const Variant& cell);
 
 // Composite depth and, with the event list, EFD of every row of
 // ConversionTable; the bar of the main form advances by row. A bore hole of

@@ -40,7 +40,9 @@ void ReadPositionFile(BoreHoleSet& set, MainForm& form, FieldReader& file,
   while (!file.Eof()) {
     ++row;
     ConversionTable.ReDimPreserve(row);
-    for (int column = 0; column <= 3; ++column) ConversionTable(column, row) = file.ReadText();
+    for (int column = 0; column <= 3; ++column) {
+      ConversionTable(column, row) = Variant(file.ReadTextView());
+    }
   }
   ConversionRows = row;
 

@@ -84,7 +84,7 @@ ReplacementFile::~ReplacementFile() {
   StopWatching();
 }
 
-void ReplacementFile::Write(const std::string& text) {
+void ReplacementFile::Write(std::string_view text) {
   if (std::fwrite(text.data(), 1, text.size(), file_) != text.size()) {
     FailWith("cannot write " + target_);
   }

@@ -7,6 +7,7 @@
 // permissions, and its owner where the user may give it.
 #include <cstdio>
 #include <string>
+#include <string_view>
 
 namespace ostraline {
 
@@ -20,7 +21,7 @@ class ReplacementFile {
   // Without Commit the temporary file is removed.
   ~ReplacementFile();
 
-  void Write(const std::string& text);
+  void Write(std::string_view text);
   // Closes the temporary file and renames it onto the target.
   void Commit();
 

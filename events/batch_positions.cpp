@@ -1,5 +1,6 @@
 // Rows given as a position (label, bore hole, section, PSP) to composite depth
 // and EFD, each row on its own.
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -63,6 +64,16 @@ bool IsNoValue(const Variant& cell) {
   return value == 9999 || value == -9999;
 }
 
+std::optional<double> ValueOfCell(const Variant& cell) {
+  // A text that is a number through and through is read once for both tests.
+  if (double value = 0; cell.IsText() && IsPlainNumber(cell.TextView(), value)) {
+    if (value == 9999 || value == -9999) return std::nullopt;
+    return value;
+  }
+  if (IsNoValue(cell)) return std::nullopt;
+  return cell.TextValue();
+}
+
 void ConvertPositionRows(BoreHoleSet& set, MainForm& form) {
   BoreHoleSet& other = set.IsDuo ? masterSet : duoSet;
   form.ProgressBar1.Max = static_cast<float>(ConversionRows);
@@ -73,16 +84,20 @@ void ConvertPositionRows(BoreHoleSet& set, MainForm& form) {
   for (long row = 1; row <= ConversionRows; ++row) {
     form.ProgressBar1.Value = static_cast<float>(row);
     const Variant& psp = given(3, row);
-    if (IsNoValue(psp)) {
-      ConversionTable(4, row) = psp;
-    } else {
+    if (const std::optional<double> value = ValueOfCell(psp)) {
       ConversionTable(4, row) =
           CompositeOfPosition(set, HoleNumber(set, other, given(1, row).ToText()),
-                              given(2, row).ToText(), psp.TextValue());
+                              given(2, row).ToText(), *value);
+    } else {
+      ConversionTable(4, row) = psp;
     }
     if (set.EventListLoaded) {
-      const Variant cd = given(4, row);
-      ConversionTable(5, row) = IsNoValue(cd) ? cd : CDToEFD(set, CSng(cd.TextValue()));
+      const Variant& cd = given(4, row);
+      if (const std::optional<double> value = ValueOfCell(cd)) {
+        ConversionTable(5, row) = CDToEFD(set, CSng(*value));
+      } else {
+        ConversionTable(5, row) = cd;
+      }
     }
   }
 }

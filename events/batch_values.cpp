@@ -35,8 +35,12 @@ bool ConvertValuesFirstPass(BoreHoleSet& set, MainForm& form, const ColumnTitles
   form.ProgressBar1.Max = static_cast<float>(ValueRows);
   for (long row = 1; row <= ValueRows; ++row) {
     form.ProgressBar1.Value = static_cast<float>(row);
-    const Variant& value = ValueTable(2, row);
-    ValueTable(3, row) = IsNoValue(value) ? value : convert(set, CSng(value.TextValue()));
+    const Variant& given = ValueTable(2, row);
+    if (const std::optional<double> value = ValueOfCell(given)) {
+      ValueTable(3, row) = convert(set, CSng(*value));
+    } else {
+      ValueTable(3, row) = given;
+    }
   }
   return true;
 }

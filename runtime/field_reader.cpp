@@ -1,6 +1,7 @@
 #include "runtime/field_reader.h"
 
 #include <algorithm>
+#include <cstring>
 #include <fstream>
 
 #include "runtime/general_format.h"
@@ -70,41 +71,44 @@ FieldReader::Field FieldReader::Next() {
   ++next_.field;
   last_ = next_;
 
-  Field field{{}, false};
+  // The text is kept by its place: reading on may move content_.
+  bool quoted = false;
+  std::size_t start = pos_;
+  std::size_t size = 0;
   if (content_[pos_] == '"') {
-    field.quoted = true;
-    std::size_t close = content_.find('"', pos_ + 1);
+    quoted = true;
+    start = pos_ + 1;
+    std::size_t close = content_.find('"', start);
     while (close == std::string::npos) {
       const std::size_t searched = content_.size();
       if (!ReadOn(searched)) break;
       close = content_.find('"', searched);
     }
     if (close == std::string::npos) {
-      field.text = content_.substr(pos_ + 1);
       pos_ = content_.size();
-      return field;
+      return {std::string_view(content_).substr(start), true};
     }
-    field.text = content_.substr(pos_ + 1, close - pos_ - 1);
+    size = close - start;
     // A quoted field may hold line ends of its own.
-    next_.line += static_cast<long>(std::count(field.text.begin(), field.text.end(), '\n'));
+    next_.line += static_cast<long>(std::count(content_.begin() + static_cast<long>(start),
+                                               content_.begin() + static_cast<long>(close), '\n'));
     pos_ = close + 1;
     while (Has(pos_) && !EndsField(content_[pos_])) ++pos_;
   } else {
-    const std::size_t start = pos_;
     // Through the text at hand, then on into what the file gives next.
     do {
       const char* text = content_.data();
-      const std::size_t size = content_.size();
-      while (pos_ < size && !EndsField(text[pos_])) ++pos_;
+      const std::size_t end = content_.size();
+      while (pos_ < end && !EndsField(text[pos_])) ++pos_;
     } while (pos_ == content_.size() && ReadOn(pos_));
-    field.text.assign(content_, start, pos_ - start);
+    size = pos_ - start;
   }
   if (Has(pos_) && content_[pos_] == ',') {
     ++pos_;
   } else {
     ConsumeLineEnd();
   }
-  return field;
+  return {std::string_view(content_).substr(start, size), quoted};
 }
 
 std::string PlaceText(const FieldReader::Place& place) {
@@ -112,6 +116,10 @@ std::string PlaceText(const FieldReader::Place& place) {
 }
 
 std::string FieldReader::ReadText() {
+  return std::string(Next().text);
+}
+
+std::string_view FieldReader::ReadTextView() {
   return Next().text;
 }
 
@@ -121,38 +129,42 @@ float FieldReader::ReadSingle() {
     return CSng(Val(field.text));
   } catch (const RuntimeFailure& failure) {
     Fail(failure.Kind(),
-         PlaceText(last_) + ": '" + field.text + "' is beyond the range of a Single");
+         PlaceText(last_) + ": '" + std::string(field.text) + "' is beyond the range of a Single");
   }
 }
 
 Variant FieldReader::ReadVariant() {
-  Field field = Next();
-  if (field.quoted) return Variant(std::move(field.text));
+  const Field field = Next();
+  if (field.quoted) return Variant(field.text);
   if (field.text.empty()) return Variant();
   if (IsNumeric(field.text)) return Variant(CDbl(field.text));
-  return Variant(std::move(field.text));
+  return Variant(field.text);
 }
 
-void FieldWriter::Separate() {
-  if (rowStarted_) out_ += ',';
+char* FieldWriter::Start(std::size_t n) {
+  // One more for the comma; the room grows as a vector would.
+  if (size_ + n + 1 > out_.size()) out_.resize(std::max(2 * out_.size(), size_ + n + 256));
+  char* at = out_.data() + size_;
+  if (rowStarted_) *at++ = ',';
   rowStarted_ = true;
+  return at;
 }
 
 void FieldWriter::Text(std::string_view text) {
-  Separate();
-  out_ += '"';
-  out_ += text;
-  out_ += '"';
+  char* at = Start(text.size() + 2);
+  *at++ = '"';
+  std::memcpy(at, text.data(), text.size());
+  at += text.size();
+  *at++ = '"';
+  End(at);
 }
 
 void FieldWriter::Number(double value) {
-  Separate();
-  AppendGeneral(out_, value);
+  End(WriteGeneral(Start(kGeneralLength), value));
 }
 
 void FieldWriter::Number(float value) {
-  Separate();
-  AppendGeneral(out_, value);
+  End(WriteGeneral(Start(kGeneralLength), value));
 }
 
 void FieldWriter::Value(const Variant& value) {
@@ -164,13 +176,19 @@ void FieldWriter::Value(const Variant& value) {
   } else if (value.IsText()) {
     Text(value.TextView());
   } else {
-    Separate();
-    out_ += value.ToText();
+    const std::string text = value.ToText();
+    char* at = Start(text.size());
+    std::memcpy(at, text.data(), text.size());
+    End(at + text.size());
   }
 }
 
 void FieldWriter::EndRow() {
-  out_ += "\r\n";
+  rowStarted_ = false;
+  char* at = Start(2);
+  *at++ = '\r';
+  *at++ = '\n';
+  End(at);
   rowStarted_ = false;
 }
 

@@ -20,6 +20,8 @@ class FieldReader {
   static FieldReader Open(const std::string& path, std::size_t chunk = 1 << 20);
 
   std::string ReadText();
+  // The same field's text where it lies in the reader, good until the next read.
+  std::string_view ReadTextView();
   float ReadSingle();
   Variant ReadVariant();
 
@@ -37,8 +39,9 @@ class FieldReader {
   Place LastPlace() const { return last_; }
 
  private:
+  // The text lies in content_ until the next field is read.
   struct Field {
-    std::string text;
+    std::string_view text;
     bool quoted;
   };
   Field Next();
@@ -70,16 +73,20 @@ class FieldWriter {
   void Number(float value);
   void Value(const Variant& value);
   void EndRow();
-  const std::string& Content() const { return out_; }
+  std::string_view Content() const { return {out_.data(), size_}; }
   // Forgets the rows written so far, keeping the room they took.
   void Clear() {
-    out_.clear();
+    size_ = 0;
     rowStarted_ = false;
   }
 
  private:
-  void Separate();
+  // The next field's place, after its comma, with room for n characters.
+  char* Start(std::size_t n);
+  void End(const char* end) { size_ = static_cast<std::size_t>(end - out_.data()); }
+  // The first size_ characters are written; the rest is room.
   std::string out_;
+  std::size_t size_ = 0;
   bool rowStarted_ = false;
 };
 

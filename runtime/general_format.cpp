@@ -5,8 +5,11 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
 #include <limits>
 #include <string_view>
+#include <type_traits>
+#include <utility>
 
 #include "runtime/exact_decimal.h"
 #include "runtime/number_text.h"
@@ -81,14 +84,50 @@ struct Rounded {
   bool negative = false;
 };
 
+// A value that a decimal of few places gives back exactly, as Round leaves
+// depths and ages, is that decimal when no other of so many digits lies
+// nearer: for a Double always, its steps being finer than fifteen digits';
+// a Single's may be coarser than seven digits', so for it whole numbers only.
+template <class T>
+bool ShortDecimal(T value, int precision, Rounded& out) {
+  constexpr int kPlaces = std::is_same_v<T, double> ? 4 : 0;
+  const double size = std::abs(static_cast<double>(value));
+  const double largest = kExactPowersOfTen[precision];
+  for (int places = 0; places <= kPlaces; ++places) {
+    const double scaled = size * kExactPowersOfTen[places];
+    if (!(scaled < largest)) return false;
+    const auto whole = static_cast<std::uint64_t>(scaled + 0.5);
+    if (whole == 0 || whole >= static_cast<std::uint64_t>(kTens.values[precision]) ||
+        static_cast<double>(whole) / kExactPowersOfTen[places] != size) {
+      continue;
+    }
+    int count = 1;
+    while (count < precision && whole >= static_cast<std::uint64_t>(kTens.values[count])) ++count;
+    out = {whole * static_cast<std::uint64_t>(kTens.values[precision - count]), count - 1 - places,
+           std::signbit(value)};
+    return true;
+  }
+  return false;
+}
+
 template <class T>
 bool RoundedTo(T value, int precision, Rounded& out) {
+  if (ShortDecimal(value, precision, out)) return true;
   if (!std::isnormal(value)) return false;
   const Binary binary = BinaryOf(value);
   // The value lies in [2^(top-1), 2^top): its decimal exponent is one of
   // two, and the truncated digits tell which.
   const int top = std::numeric_limits<T>::digits - binary.shift;
   int exponent = ((top - 1) * 78913) >> 18;  // floor((top - 1) * log10(2))
+  // The larger of the two where the value reaches the next power; the
+  // comparison need not be exact, the whole numbers below tell for sure.
+  const int next = exponent + 1;
+  const double size = std::abs(static_cast<double>(value));
+  if (next >= 0 && next <= 22 ? size >= kExactPowersOfTen[next]
+      : next < 0 && next >= -22 ? size * kExactPowersOfTen[-next] >= 1
+                                : false) {
+    exponent = next;
+  }
   const Wide lowest = kTens.values[precision - 1];
   Wide rounded = 0;
   Wide truncated = 0;
@@ -119,12 +158,24 @@ bool RoundedDigits(T value, int precision, Digits& digits) {
   if (!RoundedTo(value, precision, rounded)) return false;
   digits.negative = rounded.negative;
   digits.exponent = rounded.exponent;
-  digits.count = precision;
-  for (int i = precision - 1; i >= 0; --i) {
-    digits.text[i] = static_cast<char>('0' + rounded.whole % 10);
-    rounded.whole /= 10;
+  // The trailing zeros go first, in steps of eight, four, two and one.
+  std::uint64_t whole = rounded.whole;
+  int count = precision;
+  if (count > 8 && whole % 100000000 == 0) {
+    whole /= 100000000;
+    count -= 8;
   }
-  while (digits.count > 1 && digits.text[digits.count - 1] == '0') --digits.count;
+  if (count > 4 && whole % 10000 == 0) {
+    whole /= 10000;
+    count -= 4;
+  }
+  if (count > 2 && whole % 100 == 0) {
+    whole /= 100;
+    count -= 2;
+  }
+  if (count > 1 && whole % 10 == 0) whole /= 10;
+  const char* end = std::to_chars(digits.text, digits.text + sizeof digits.text, whole).ptr;
+  digits.count = static_cast<int>(end - digits.text);
   return true;
 }
 
@@ -141,33 +192,35 @@ bool NearestToRounded(T value, int precision, double& out) {
 }
 
 // %G's layout: plain digits for exponents from -4 up to below the digits,
-// the exponent form otherwise, trailing zeros dropped either way. Appended
-// where it goes, as the writer of a file wants it.
-void AppendLayout(std::string& out, const Digits& digits, int precision) {
-  char buf[48];
-  char* p = buf;
+// the exponent form otherwise, trailing zeros dropped either way. Written
+// where it goes, as the writer of a file wants it; its end.
+char* WriteLayout(char* p, const Digits& digits, int precision) {
   if (digits.negative) *p++ = '-';
   const int x = digits.exponent;
   const char* all = digits.text;
   const int count = digits.count;
+  const auto put = [&p](const char* from, int n) {
+    std::memcpy(p, from, static_cast<std::size_t>(n));
+    p += n;
+  };
   if (x >= -4 && x < precision) {
     if (x < 0) {
-      *p++ = '0';
+      put("0.0000", 1 - x);
+      put(all, count);
+    } else if (count > x + 1) {
+      put(all, x + 1);
       *p++ = '.';
-      for (int i = -1; i > x; --i) *p++ = '0';
-      for (int i = 0; i < count; ++i) *p++ = all[i];
+      put(all + x + 1, count - x - 1);
     } else {
-      for (int i = 0; i <= x; ++i) *p++ = i < count ? all[i] : '0';
-      if (count > x + 1) {
-        *p++ = '.';
-        for (int i = x + 1; i < count; ++i) *p++ = all[i];
-      }
+      put(all, count);
+      std::memset(p, '0', static_cast<std::size_t>(x + 1 - count));
+      p += x + 1 - count;
     }
   } else {
     *p++ = all[0];
     if (count > 1) {
       *p++ = '.';
-      for (int i = 1; i < count; ++i) *p++ = all[i];
+      put(all + 1, count - 1);
     }
     *p++ = 'E';
     *p++ = x < 0 ? '-' : '+';
@@ -176,17 +229,16 @@ void AppendLayout(std::string& out, const Digits& digits, int precision) {
     *p++ = static_cast<char>('0' + magnitude / 10 % 10);
     *p++ = static_cast<char>('0' + magnitude % 10);
   }
-  out.append(buf, static_cast<std::size_t>(p - buf));
+  return p;
 }
 
 template <class T>
-void Append(std::string& out, T value, int precision) {
+char* Write(char* at, T value, int precision) {
   Digits digits;
-  if (RoundedDigits(value, precision, digits)) {
-    AppendLayout(out, digits, precision);
-  } else {
-    out += RoundedGeneral(value, precision);
-  }
+  if (RoundedDigits(value, precision, digits)) return WriteLayout(at, digits, precision);
+  const std::string text = RoundedGeneral(value, precision);
+  std::memcpy(at, text.data(), text.size());
+  return at + text.size();
 }
 
 template <class T>
@@ -207,22 +259,20 @@ std::string RoundedGeneral(double value, int digits) {
   return UCase(std::string_view(buf, static_cast<std::size_t>(end - buf)));
 }
 
-void AppendGeneral(std::string& out, float value) {
-  Append(out, value, 7);
+char* WriteGeneral(char* at, float value) {
+  return Write(at, value, 7);
 }
-void AppendGeneral(std::string& out, double value) {
-  Append(out, value, 15);
+char* WriteGeneral(char* at, double value) {
+  return Write(at, value, 15);
 }
 
 std::string GeneralText(float value) {
-  std::string text;
-  AppendGeneral(text, value);
-  return text;
+  char text[kGeneralLength];
+  return std::string(text, WriteGeneral(text, value));
 }
 std::string GeneralText(double value) {
-  std::string text;
-  AppendGeneral(text, value);
-  return text;
+  char text[kGeneralLength];
+  return std::string(text, WriteGeneral(text, value));
 }
 
 double PrintedValue(float value) {

@@ -2,6 +2,7 @@
 // printf's %G of a Single at 7 and of a Double at 15 significant digits, in
 // capitals and without the C locale: the desktop toolkit installs the user's
 // locale, whose decimal comma would be written otherwise.
+#include <cstddef>
 #include <string>
 
 namespace ostraline {
@@ -15,9 +16,11 @@ std::string RoundedGeneral(double value, int digits);
 // otherwise.
 std::string GeneralText(float value);
 std::string GeneralText(double value);
-// The same text at the end of another.
-void AppendGeneral(std::string& out, float value);
-void AppendGeneral(std::string& out, double value);
+// The same text written where there is room for kGeneralLength characters;
+// where it ends.
+inline constexpr std::size_t kGeneralLength = 32;
+char* WriteGeneral(char* at, float value);
+char* WriteGeneral(char* at, double value);
 
 // What Val reads from that text, found without writing it.
 double PrintedValue(float value);

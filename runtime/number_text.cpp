@@ -190,6 +190,14 @@ bool IsNumeric(std::string_view text) {
   return !core.empty() && LeadingNumber(core).length == core.size();
 }
 
+bool IsPlainNumber(std::string_view text, double& value) {
+  // A number's span holds no blank and no radix prefix.
+  const NumberSpan span = LeadingNumber(text);
+  if (text.empty() || span.length != text.size()) return false;
+  value = NumberValue(text, span);
+  return std::isfinite(value);
+}
+
 double CDbl(std::string_view text) {
   const std::string_view core = Core(text);
   const NumberSpan span = LeadingNumber(core);

@@ -43,6 +43,9 @@ double Divide(double numerator, double denominator);
 
 // Whether the text reads as a number to the strict conversions.
 bool IsNumeric(std::string_view text);
+// Whether the text is a finite number through and through with no blank in
+// it, with its value: then IsNumeric holds and Val and CDbl read that value.
+bool IsPlainNumber(std::string_view text, double& value);
 
 // Text procedures of the program's language, with 1-based positions.
 std::string Trim(std::string_view text);

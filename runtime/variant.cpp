@@ -29,22 +29,6 @@ std::string_view Variant::Text() const {
   return {block + sizeof size, size};
 }
 
-void Variant::Release() noexcept {
-  if (kind_ == Kind::LongText) delete[] Get<char*>();
-}
-
-void Variant::TakeBytes(const Variant& other) noexcept {
-  std::memcpy(bytes_, other.bytes_, sizeof bytes_);
-  shortSize_ = other.shortSize_;
-  kind_ = other.kind_;
-}
-
-void Variant::LeaveMovedFrom() noexcept {
-  if (!IsText()) return;
-  kind_ = Kind::ShortText;
-  shortSize_ = 0;
-}
-
 Variant::Variant(const Variant& other) {
   if (other.kind_ == Kind::LongText) {
     SetText(other.Text());
@@ -53,22 +37,9 @@ Variant::Variant(const Variant& other) {
   }
 }
 
-Variant::Variant(Variant&& other) noexcept {
-  TakeBytes(other);
-  other.LeaveMovedFrom();
-}
-
 Variant& Variant::operator=(const Variant& other) {
   // The copy is made before the old value goes, so a failed one leaves it.
   if (this != &other) *this = Variant(other);
-  return *this;
-}
-
-Variant& Variant::operator=(Variant&& other) noexcept {
-  Release();
-  if (this != &other) TakeBytes(other);
-  // Moved onto itself, a text is left empty as any moved-from text is.
-  other.LeaveMovedFrom();
   return *this;
 }
 

@@ -21,14 +21,24 @@ class Variant {
   Variant(Long value) noexcept : Variant(static_cast<int>(value.Get())) {}
   Variant(float value) noexcept : kind_(Kind::Single) { Put(value); }
   Variant(double value) noexcept : kind_(Kind::Double) { Put(value); }
-  Variant(std::string value) { SetText(value); }
-  Variant(const char* value) : Variant(std::string(value)) {}
+  Variant(const std::string& value) { SetText(value); }
+  explicit Variant(std::string_view value) { SetText(value); }
+  Variant(const char* value) { SetText(value); }
 
   Variant(const Variant& other);
   // A text moved from is left as empty text, a number as it was.
-  Variant(Variant&& other) noexcept;
+  Variant(Variant&& other) noexcept {
+    TakeBytes(other);
+    other.LeaveMovedFrom();
+  }
   Variant& operator=(const Variant& other);
-  Variant& operator=(Variant&& other) noexcept;
+  Variant& operator=(Variant&& other) noexcept {
+    Release();
+    if (this != &other) TakeBytes(other);
+    // Moved onto itself, a text is left empty as any moved-from text is.
+    other.LeaveMovedFrom();
+    return *this;
+  }
   ~Variant() { Release(); }
 
   bool IsEmpty() const { return kind_ == Kind::Empty; }
@@ -73,10 +83,20 @@ class Variant {
   void SetText(std::string_view text);
   std::string_view Text() const;
   // Frees a long text; the bytes are left for the caller to overwrite.
-  void Release() noexcept;
-  void TakeBytes(const Variant& other) noexcept;
+  void Release() noexcept {
+    if (kind_ == Kind::LongText) delete[] Get<char*>();
+  }
+  void TakeBytes(const Variant& other) noexcept {
+    std::memcpy(bytes_, other.bytes_, sizeof bytes_);
+    shortSize_ = other.shortSize_;
+    kind_ = other.kind_;
+  }
   // The long text's block has gone to another variant: this one forgets it.
-  void LeaveMovedFrom() noexcept;
+  void LeaveMovedFrom() noexcept {
+    if (!IsText()) return;
+    kind_ = Kind::ShortText;
+    shortSize_ = 0;
+  }
 
   alignas(8) char bytes_[kShortText] = {};
   unsigned char shortSize_ = 0;

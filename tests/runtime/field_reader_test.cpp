@@ -197,7 +197,7 @@ TEST(FieldWriterTest, textQuotedNumbersBareRowsEndInCrLf) {
   EXPECT_EQ(writer.Content(), "\"A-01\",12.5,,0.1,\"7\",-0.25\r\n1E-05,\"\"\r\n");
 
   // What is written reads back field by field.
-  EXPECT_EQ(Variants(writer.Content()), (Texts{"text A-01", "number 12.5", "empty", "number 0.1",
+  EXPECT_EQ(Variants(std::string(writer.Content())), (Texts{"text A-01", "number 12.5", "empty", "number 0.1",
                                                "text 7", "number -0.25", "number 1E-05", "text "}));
 }
 

@@ -82,9 +82,20 @@ TEST(GeneralFormatTest, shortDigitsGiveTheRoundedTextOfEveryDouble) {
     ExpectSameText(1.0 / i);
     ExpectSameText(static_cast<double>(static_cast<float>(i) / 7));
   }
+  // Decimals of a few places, as rounded depths and ages are, their
+  // neighbours, and the same at the edge of fifteen digits.
+  for (int i = -300000; i <= 300000; i += 13) {
+    for (double scale : {1.0, 10.0, 100.0, 1e3, 1e4, 1e5}) {
+      for (double d : {i / scale, i * 1e9 + i / scale, Round(i * 1.37e-3 + i / scale, 2)}) {
+        ExpectSameText(d);
+        ExpectSameText(std::nextafter(d, INFINITY));
+        ExpectSameText(std::nextafter(d, -INFINITY));
+      }
+    }
+  }
   for (double d : {0.0, -0.0, std::numeric_limits<double>::denorm_min(),
                    std::numeric_limits<double>::min(), std::numeric_limits<double>::max(), 1e15,
-                   999999999999999.9, 123456789012345.5, 123456789012344.5, 1e-5, 0.0001, 123456789012345.0, 1234567890123456.0}) {
+                   999999999999999.9, 999999999999999.0, 99999999999999.99, 123456789012345.5, 123456789012344.5, 1e-5, 0.0001, 123456789012345.0, 1234567890123456.0}) {
     ExpectSameText(d);
     ExpectSameText(-d);
   }
