@@ -81,13 +81,19 @@ void ConvertPositionRows(BoreHoleSet& set, MainForm& form) {
   form.ProgressBar1.Visible = true;
   // Reads leave the table's revision as it is.
   const auto& given = std::as_const(ConversionTable);
+  // The names of the holes stand still meanwhile: a row with the name of
+  // the row before has its hole.
+  std::string holeName;
+  int hole = HoleNumber(set, other, holeName);
   for (long row = 1; row <= ConversionRows; ++row) {
     form.ProgressBar1.Value = static_cast<float>(row);
     const Variant& psp = given(3, row);
     if (const std::optional<double> value = ValueOfCell(psp)) {
-      ConversionTable(4, row) =
-          CompositeOfPosition(set, HoleNumber(set, other, given(1, row).ToText()),
-                              given(2, row).ToText(), *value);
+      if (const Variant& name = given(1, row); !name.IsText() || name.TextView() != holeName) {
+        holeName = name.ToText();
+        hole = HoleNumber(set, other, holeName);
+      }
+      ConversionTable(4, row) = CompositeOfPosition(set, hole, given(2, row).ToText(), *value);
     } else {
       ConversionTable(4, row) = psp;
     }

@@ -1,5 +1,6 @@
 #include "runtime/general_format.h"
 
+#include <algorithm>
 #include <bit>
 #include <charconv>
 #include <cmath>
@@ -88,31 +89,60 @@ struct Rounded {
 // depths and ages, is that decimal when no other of so many digits lies
 // nearer: for a Double always, its steps being finer than fifteen digits';
 // a Single's may be coarser than seven digits', so for it whole numbers only.
+struct ShortDecimal {
+  std::uint64_t whole;  // without trailing zeros where there are places
+  int places;
+  bool negative;
+};
 template <class T>
-bool ShortDecimal(T value, int precision, Rounded& out) {
-  constexpr int kPlaces = std::is_same_v<T, double> ? 4 : 0;
+bool ShortDecimalOf(T value, int precision, ShortDecimal& out) {
   const double size = std::abs(static_cast<double>(value));
   const double largest = kExactPowersOfTen[precision];
-  for (int places = 0; places <= kPlaces; ++places) {
-    const double scaled = size * kExactPowersOfTen[places];
-    if (!(scaled < largest)) return false;
-    const auto whole = static_cast<std::uint64_t>(scaled + 0.5);
-    if (whole == 0 || whole >= static_cast<std::uint64_t>(kTens.values[precision]) ||
-        static_cast<double>(whole) / kExactPowersOfTen[places] != size) {
-      continue;
-    }
-    int count = 1;
-    while (count < precision && whole >= static_cast<std::uint64_t>(kTens.values[count])) ++count;
-    out = {whole * static_cast<std::uint64_t>(kTens.values[precision - count]), count - 1 - places,
-           std::signbit(value)};
-    return true;
+  // Four places where the whole number of them still has so many digits.
+  constexpr int kPlaces = std::is_same_v<T, double> ? 4 : 0;
+  int places = size * kExactPowersOfTen[kPlaces] < largest ? kPlaces : 0;
+  const double scaled = size * kExactPowersOfTen[places];
+  if (!(scaled < largest)) return false;
+  auto whole = static_cast<std::uint64_t>(scaled + 0.5);
+  if (whole == 0 || whole >= static_cast<std::uint64_t>(kTens.values[precision]) ||
+      static_cast<double>(whole) / kExactPowersOfTen[places] != size) {
+    return false;
   }
-  return false;
+  for (; places > 0 && whole % 10 == 0; --places) whole /= 10;
+  out = {whole, places, std::signbit(value)};
+  return true;
+}
+
+// Its text, which %G writes without an exponent: the digits with the point
+// set in.
+char* WriteShortDecimal(char* p, const ShortDecimal& decimal) {
+  if (decimal.negative) *p++ = '-';
+  char digits[24];
+  const int count = static_cast<int>(std::to_chars(digits, digits + sizeof digits, decimal.whole).ptr - digits);
+  const int before = count - decimal.places;
+  if (before <= 0) {
+    *p++ = '0';
+    *p++ = '.';
+    for (int i = before; i < 0; ++i) *p++ = '0';
+  } else {
+    for (int i = 0; i < before; ++i) *p++ = digits[i];
+    if (decimal.places > 0) *p++ = '.';
+  }
+  for (int i = std::max(before, 0); i < count; ++i) *p++ = digits[i];
+  return p;
 }
 
 template <class T>
 bool RoundedTo(T value, int precision, Rounded& out) {
-  if (ShortDecimal(value, precision, out)) return true;
+  if (ShortDecimal decimal; ShortDecimalOf(value, precision, decimal)) {
+    // Its digits: the estimate from the bits is one too few at most.
+    const std::uint64_t whole = decimal.whole;
+    int count = (std::bit_width(whole) * 1233) >> 12;
+    if (whole >= static_cast<std::uint64_t>(kTens.values[count])) ++count;
+    out = {whole * static_cast<std::uint64_t>(kTens.values[precision - count]),
+           count - 1 - decimal.places, decimal.negative};
+    return true;
+  }
   if (!std::isnormal(value)) return false;
   const Binary binary = BinaryOf(value);
   // The value lies in [2^(top-1), 2^top): its decimal exponent is one of
@@ -234,6 +264,9 @@ char* WriteLayout(char* p, const Digits& digits, int precision) {
 
 template <class T>
 char* Write(char* at, T value, int precision) {
+  if (ShortDecimal decimal; ShortDecimalOf(value, precision, decimal)) {
+    return WriteShortDecimal(at, decimal);
+  }
   Digits digits;
   if (RoundedDigits(value, precision, digits)) return WriteLayout(at, digits, precision);
   const std::string text = RoundedGeneral(value, precision);
