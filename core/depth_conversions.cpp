@@ -159,12 +159,19 @@ bool CellsStand(const BoreHoleSet& set) {
     cells.lastRow = last;
     cells.built = true;
   }
+  cells.modelSeen = model.Revision();
+  cells.tiesSeen = ties.Revision();
   return &cells;
 }
 
-// Called for every lookup: the test that the model stands is all it costs then.
+// Called for every lookup: as long as nothing at all is written to the
+// model, one comparison a table tells that its cells stand.
 inline const TrinityCells* Cells(BoreHoleSet& set, int hole) {
-  if (hole >= 1 && hole <= 4 && CellsStand(set)) return &set.Derived.trinity;
+  const TrinityCells& cells = set.Derived.trinity;
+  if (hole >= 1 && hole <= 4 && cells.built && cells.modelSeen == set.ModelCell.Revision() &&
+      cells.tiesSeen == set.TieCell.Revision() && cells.lastRow == set.LastRow) {
+    return &cells;
+  }
   return ReadCells(set, hole);
 }
 

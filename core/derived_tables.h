@@ -15,6 +15,9 @@ namespace ostraline {
 // One column of a table of text cells, rows 0..last.
 struct NumberColumn {
   unsigned long long revision = 0;
+  // The whole table's revision when the column was last found standing: as
+  // long as nothing at all is written, one comparison tells.
+  unsigned long long tableRevision = 0;
   bool built = false;
   std::vector<Single> singles;
   std::vector<double> doubles;
@@ -58,6 +61,9 @@ struct TrinityRow {
 struct TrinityCells {
   unsigned long long modelRevision = 0;
   unsigned long long tieRevision = 0;
+  // The two tables' whole revisions when the cells were last found standing.
+  unsigned long long modelSeen = 0;
+  unsigned long long tiesSeen = 0;
   long lastRow = -1;
   bool built = false;
   std::vector<TrinityRow> rows[5];

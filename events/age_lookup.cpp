@@ -34,6 +34,8 @@ constexpr int kEfd = 11;
 [[gnu::noinline]] const NumberColumn& ReadNumbers(BoreHoleSet& set, int column) {
   NumberColumn& numbers = set.Derived.ageColumns[column];
   const Table<std::string, 2>& table = set.AgeModel;
+  numbers.tableRevision = table.Revision();
+  if (numbers.built && numbers.revision == table.Revision(column)) return numbers;
   const long last = table.Allocated() ? table.UBound(2) : -1;
   const auto rows = static_cast<std::size_t>(last + 1);
   numbers.singles.assign(rows, 0);
@@ -63,7 +65,7 @@ constexpr int kEfd = 11;
 // all it costs then.
 inline const NumberColumn& Numbers(BoreHoleSet& set, int column) {
   const NumberColumn& numbers = set.Derived.ageColumns[column];
-  if (numbers.built && numbers.revision == set.AgeModel.Revision(column)) return numbers;
+  if (numbers.built && numbers.tableRevision == set.AgeModel.Revision()) return numbers;
   return ReadNumbers(set, column);
 }
 
