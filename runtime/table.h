@@ -146,6 +146,13 @@ class Table {
  private:
   // Every revision moves on: the bounds or all the contents may have changed.
   void Renew() {
+    std::size_t stride = 1;
+    for (int d = 0; d < Rank; ++d) {
+      const Bounds& b = bounds_[d];
+      extents_[d] = b.hi >= b.lo ? static_cast<std::size_t>(b.hi - b.lo + 1) : 0;
+      strides_[d] = stride;
+      stride *= extents_[d];
+    }
     revision_ = NextTableRevision();
     if constexpr (Rank > 1) {
       const Bounds& first = bounds_[0];
@@ -167,27 +174,24 @@ class Table {
     if (!allocated_ || dim < 1 || dim > Rank) Fail(FailureKind::SubscriptOutOfRange);
     return bounds_[dim - 1];
   }
-  std::size_t Capacity() const {
-    std::size_t n = 1;
-    for (const Bounds& b : bounds_)
-      n *= b.hi >= b.lo ? static_cast<std::size_t>(b.hi - b.lo + 1) : 0;
-    return n;
-  }
+  std::size_t Capacity() const { return strides_[Rank - 1] * extents_[Rank - 1]; }
   // The first subscript varies fastest, so that the last can grow in place.
   std::size_t Offset(std::array<long, Rank> ix) const {
     if (!allocated_) Fail(FailureKind::SubscriptOutOfRange, "table not dimensioned");
     std::size_t offset = 0;
-    std::size_t stride = 1;
     for (int d = 0; d < Rank; ++d) {
-      const Bounds& b = bounds_[d];
-      if (ix[d] < b.lo || ix[d] > b.hi) Fail(FailureKind::SubscriptOutOfRange);
-      offset += static_cast<std::size_t>(ix[d] - b.lo) * stride;
-      stride *= static_cast<std::size_t>(b.hi - b.lo + 1);
+      // Below the lower bound the difference wraps round beyond every extent.
+      const std::size_t k = static_cast<std::size_t>(ix[d]) - static_cast<std::size_t>(bounds_[d].lo);
+      if (k >= extents_[d]) Fail(FailureKind::SubscriptOutOfRange);
+      offset += k * strides_[d];
     }
     return offset;
   }
 
   std::array<Bounds, Rank> bounds_{};
+  // Each dimension's count of subscripts, and the cells between two of its neighbours.
+  std::array<std::size_t, Rank> extents_{};
+  std::array<std::size_t, Rank> strides_{};
   bool allocated_ = false;
   unsigned long long revision_ = NextTableRevision();
   std::vector<unsigned long long> sliceRevision_;
