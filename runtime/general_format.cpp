@@ -117,19 +117,23 @@ bool ShortDecimalOf(T value, int precision, ShortDecimal& out) {
 // set in.
 char* WriteShortDecimal(char* p, const ShortDecimal& decimal) {
   if (decimal.negative) *p++ = '-';
-  char digits[24];
-  const int count = static_cast<int>(std::to_chars(digits, digits + sizeof digits, decimal.whole).ptr - digits);
-  const int before = count - decimal.places;
-  if (before <= 0) {
-    *p++ = '0';
-    *p++ = '.';
-    for (int i = before; i < 0; ++i) *p++ = '0';
-  } else {
-    for (int i = 0; i < before; ++i) *p++ = digits[i];
-    if (decimal.places > 0) *p++ = '.';
+  char* end = std::to_chars(p, p + 24, decimal.whole).ptr;
+  const int places = decimal.places;
+  if (places == 0) return end;
+  const int before = static_cast<int>(end - p) - places;
+  if (before > 0) {
+    // The places move one on for the point.
+    for (int i = 0; i < places; ++i, --end) *end = end[-1];
+    *end = '.';
+    return p + before + places + 1;
   }
-  for (int i = std::max(before, 0); i < count; ++i) *p++ = digits[i];
-  return p;
+  // "0." and the zeros the digits lack go in front of them.
+  const int shift = 2 - before;
+  for (int i = places + before - 1; i >= 0; --i) p[i + shift] = p[i];
+  p[0] = '0';
+  p[1] = '.';
+  for (int i = 2; i < shift; ++i) p[i] = '0';
+  return p + shift + places + before;
 }
 
 template <class T>
