@@ -94,42 +94,41 @@ TEST_F(CorrelationModelImport, SectionsAreCountedByTheirLabels) {
 }
 
 TEST_F(CorrelationModelImport, BadFilesEndInTheMessageAndLeaveTheButton) {
-  auto rows = TwoSectionModel();
-  rows[0].holes[3] = "Bore hole B";  // no "(" in a hole's header
-  ImportModel(rows);
-  EXPECT_TRUE(FailedWithFormatError());
+  // A cancelled dialog changes nothing, silently.
+  platform.QueueCancel();
+  frmMain->Command1_Click();
+  EXPECT_TRUE(platform.messages.empty());
+  EXPECT_EQ(LastRow, 0);
   EXPECT_TRUE(frmMain->Command1.Enabled);
-  EXPECT_FALSE(frmMain->ProgressBar1.Visible);
+  EXPECT_EQ(platform.dialogs.at(0).filter, "DataFile(*.csv)|*.csv");
 
-  // A cell of length 0 has no prefix to drop.
-  platform.messages.clear();
-  ImportText(
+  // Each of these files ends in the format error and leaves the button.
+  const auto changed = [](void (*change)(std::vector<ModelRow>&)) {
+    auto rows = TwoSectionModel();
+    change(rows);
+    return ModelText(rows);
+  };
+  const std::string bad[] = {
+      // No "(" in a hole's header.
+      changed([](std::vector<ModelRow>& rows) { rows[0].holes[3] = "Bore hole B"; }),
+      // A cell of length 0 has no prefix to drop.
       "'S,'A (A),'P,'D,'B (B),'P,'D,'C (C),'P,'D,'D (D),'P,'D,'CD\r\n"
-      "'A,'A-01-top,,'1,'*,'*,'*,'*,'*,'*,'*,'*,'*,'1\r\n");
-  EXPECT_TRUE(FailedWithFormatError());
-
-  // A PSP that is no number fails the depth sweep.
-  platform.messages.clear();
-  ResetProgram();
-  rows = TwoSectionModel();
-  rows[2].holes[1] = "---";
-  ImportModel(rows);
-  EXPECT_TRUE(FailedWithFormatError());
-
-  // A blank line after the last row is one more row, and its reading fails.
-  platform.messages.clear();
-  ResetProgram();
-  ImportText(ModelText(TwoSectionModel()) + "\r\n");
-  EXPECT_TRUE(FailedWithFormatError());
-
-  // A first splice cell of three characters with its prefix means the long
-  // layout: eighteen fields a row from a file of fourteen run out mid-row.
-  platform.messages.clear();
-  ResetProgram();
-  rows = TwoSectionModel();
-  rows[1].splice = "AB";
-  ImportModel(rows);
-  EXPECT_TRUE(FailedWithFormatError());
+      "'A,'A-01-top,,'1,'*,'*,'*,'*,'*,'*,'*,'*,'*,'1\r\n",
+      // A PSP that is no number fails the depth sweep.
+      changed([](std::vector<ModelRow>& rows) { rows[2].holes[1] = "---"; }),
+      // A blank line after the last row is one more row, and its reading fails.
+      ModelText(TwoSectionModel()) + "\r\n",
+      // A first splice cell of three characters with its prefix means the long
+      // layout: eighteen fields a row from a file of fourteen run out mid-row.
+      changed([](std::vector<ModelRow>& rows) { rows[1].splice = "AB"; })};
+  for (const std::string& text : bad) {
+    ResetProgram();
+    platform.messages.clear();
+    ImportText(text);
+    EXPECT_TRUE(FailedWithFormatError()) << text;
+    EXPECT_TRUE(frmMain->Command1.Enabled);
+    EXPECT_FALSE(frmMain->ProgressBar1.Visible);
+  }
 }
 
 TEST_F(CorrelationModelImport, AtMostFiveThousandRows) {
@@ -152,15 +151,6 @@ TEST_F(CorrelationModelImport, AtMostFiveThousandRows) {
   rows.push_back(RowA("L5001", "1", "1", ""));
   ImportModel(rows);
   EXPECT_TRUE(FailedWithFormatError());
-}
-
-TEST_F(CorrelationModelImport, CancelledDialogChangesNothing) {
-  platform.QueueCancel();
-  frmMain->Command1_Click();
-  EXPECT_TRUE(platform.messages.empty());
-  EXPECT_EQ(LastRow, 0);
-  EXPECT_TRUE(frmMain->Command1.Enabled);
-  EXPECT_EQ(platform.dialogs.at(0).filter, "DataFile(*.csv)|*.csv");
 }
 
 }  // namespace

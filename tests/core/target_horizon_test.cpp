@@ -51,22 +51,13 @@ class TargetHorizon : public FreshProgram {
     Count(form.Label1(8).Change, "Label1(8)");
   }
 
-  // The user types a composite depth.
-  void TypeDepth(const std::string& text) {
-    FrmMain& form = *frmMain;
-    form.Text2.SetFocus();
-    int key = 13;
-    form.Text2.KeyDown(key, 0);
-    form.Text2.Text = text;
-  }
-
   std::map<std::string, int> runs;
 };
 
 TEST_F(TargetHorizon, OneTypedDepthReachesEveryFaceOnce) {
   LoadEmptyEventList();
   CountFaces();
-  TypeDepth("275");
+  TypeCompositeDepth("275");
   FrmMain& form = *frmMain;
   EXPECT_TRUE(platform.messages.empty());
   EXPECT_EQ(runs["Text2"], 1);
@@ -90,13 +81,13 @@ TEST_F(TargetHorizon, OneTypedDepthReachesEveryFaceOnce) {
 
 TEST_F(TargetHorizon, CoreBottomIsAStrictLimitAndTheBoxesGoBack) {
   LoadEmptyEventList();
-  TypeDepth("275");
-  TypeDepth("500");  // exactly at the deepest bottom
+  TypeCompositeDepth("275");
+  TypeCompositeDepth("500");  // exactly at the deepest bottom
   EXPECT_TRUE(platform.messages.empty());
 
   // The texts to go back to are saved when the box gets the focus.
   frmMain->Text1.SetFocus();
-  TypeDepth("500.5");
+  TypeCompositeDepth("500.5");
   ASSERT_EQ(platform.messages.size(), 1u);
   EXPECT_EQ(platform.messages[0].text, "Requested horizon is below core bottom.");
   EXPECT_EQ(platform.messages[0].title, "Error");
@@ -112,17 +103,30 @@ TEST_F(TargetHorizon, CoreBottomIsAStrictLimitAndTheBoxesGoBack) {
   EXPECT_EQ(platform.messages.size(), 1u);
 }
 
-TEST_F(TargetHorizon, ClearedBoxAndTargetAboveEveryTie) {
-  TypeDepth("");
+TEST_F(TargetHorizon, ClearedBoxTargetAboveEveryTieAndTheSlider) {
+  TypeCompositeDepth("");
   EXPECT_TRUE(platform.messages.empty());  // an empty box reads 0
   FrmMain& form = *frmMain;
   for (int hole = 1; hole <= 4; ++hole) EXPECT_FALSE(form.mnuBH(hole).Enabled) << hole;
   EXPECT_EQ(form.Combo1.Text.Get(), "A");
 
-  TypeDepth("150");  // above the first tie at 200 in every bore hole
+  TypeCompositeDepth("150");  // above the first tie at 200 in every bore hole
   for (int hole = 1; hole <= 4; ++hole) EXPECT_FALSE(form.mnuBH(hole).Enabled) << hole;
   EXPECT_EQ(form.Combo1.Text.Get(), "A");
   EXPECT_EQ(form.Text1.Text.Get(), "40");  // the trinity stays where it was
+
+  // The slider takes the whole part of the depth, cut toward zero.
+  TypeCompositeDepth("274.6");
+  EXPECT_TRUE(platform.messages.empty());
+  EXPECT_EQ(form.Slider1.Value.Get(), 274);
+  // Below the cores: only with the checks off, as while a bore hole change sets up.
+  ActionCount = 9999;
+  DrivenBy = 2;
+  form.Text2.Text = "1234.6";
+  EXPECT_EQ(form.Slider1.Value.Get(), 1234);
+  TypeCompositeDepth("-12.7");
+  EXPECT_EQ(form.Slider1.Value.Get(), -12);
+  EXPECT_EQ(form.Text2.Text.Get(), "-12.7");
 }
 
 TEST_F(TargetHorizon, EfdTypedAtAnEventLayerSettles) {
@@ -168,22 +172,6 @@ TEST_F(TargetHorizon, PickingASectionMovesTheTrinityAndTheDepth) {
   form.Text1.Text = "50";
   EXPECT_EQ(form.Text2.Text.Get(), "400");
   EXPECT_EQ(form.Label1(8).Caption.Get(), "400");
-}
-
-// The slider takes the whole part of the depth, cut toward zero.
-TEST_F(TargetHorizon, SliderTakesTheWholePartOfTheDepth) {
-  FrmMain& form = *frmMain;
-  TypeDepth("274.6");
-  EXPECT_TRUE(platform.messages.empty());
-  EXPECT_EQ(form.Slider1.Value.Get(), 274);
-  // Below the cores: only with the checks off, as while a bore hole change sets up.
-  ActionCount = 9999;
-  DrivenBy = 2;
-  form.Text2.Text = "1234.6";
-  EXPECT_EQ(form.Slider1.Value.Get(), 1234);
-  TypeDepth("-12.7");
-  EXPECT_EQ(form.Slider1.Value.Get(), -12);
-  EXPECT_EQ(form.Text2.Text.Get(), "-12.7");
 }
 
 }  // namespace

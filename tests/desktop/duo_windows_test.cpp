@@ -19,21 +19,6 @@ namespace {
 
 const char* const kNoLayer = "Hole,Section,Top,Bottom,Description\r\n";
 
-// Bore hole E tied at 100 and 200 cm to the master's A-01 PSP 10 (110 cm)
-// and A-02 PSP 20 (230 cm).
-std::string DuoModel() {
-  const char* rows[] = {
-      ("'Top,'Bore hole E (E),'PSP,'D,'F (F),'PSP,'D,'G (G),'PSP,'D,'H (H),'PSP,'D,'CD,'Kind "
-       "(Lake),'Hole,'Section,'PSP"),
-      "'E,'E-01-top,'0,'90,'*,'*,'*,'*,'*,'*,'*,'*,'*,'90,'-,'---,'---,'---",
-      "'E,'L1,'10,'100,'*,'*,'*,'*,'*,'*,'*,'*,'*,'100,'T,'A,'01,'10",
-      "'E,'L2,'110,'200,'*,'*,'*,'*,'*,'*,'*,'*,'*,'200,'T,'A,'02,'20",
-      "'E,'E-01-bottom,'150,'240,'*,'*,'*,'*,'*,'*,'*,'*,'*,','-,'---,'---,'---"};
-  std::string text;
-  for (const char* row : rows) text += std::string(row) + "\r\n";
-  return text;
-}
-
 class DuoWindows : public ShellTest {
  protected:
   void SetUp() override {
@@ -64,7 +49,7 @@ TEST_F(DuoWindows, TypingInEitherWindowMovesBoth) {
   // Beside the master, overlapping it by 60 twips, or against the screen's edge.
   EXPECT_GT(duo->x(), master->x());
 
-  dialogs.script.QueueFile(WriteTempFile("duo_20120101.csv", DuoModel()));
+  dialogs.script.QueueFile(WriteTempFile("duo_20120101.csv", DuoModelText()));
   dialogs.script.QueueAnswer(MsgAnswer::Yes);
   dialogs.script.QueueFile(WriteTempFile("duo_events_20120201.csv", kNoLayer));
   QTest::mouseClick(WidgetOf<QPushButton>(frm2Main->Command1), Qt::LeftButton);

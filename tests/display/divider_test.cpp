@@ -27,13 +27,6 @@ class Divider : public AgeProgram {
     frmMain->mnuDivider_Click();
     return *frmDivider;
   }
-  // The user types the target's composite depth.
-  static void Target(const std::string& depth) {
-    frmMain->Text2.SetFocus();
-    int enter = 13;
-    frmMain->Text2.KeyDown(enter, 0);
-    frmMain->Text2.Text = depth;
-  }
   static std::string Green(FrmDivider& form) {
     if (form.Line1.BorderColor == RGB(0, 170, 0)) return "Line1";
     if (form.Line2.BorderColor == RGB(0, 170, 0)) return "Line2";
@@ -113,7 +106,7 @@ TEST_F(Divider, LevelsPickedInTheLists) {
 
   // The same level in both lists hides the sampling position. The lists
   // hold the rows of the target's section.
-  Target("135");
+  TypeCompositeDepth("135");
   Open(10, 30, 50);
   form.Combo1(1).Text = "L1";
   form.Combo1_Click(1);
@@ -123,7 +116,7 @@ TEST_F(Divider, LevelsPickedInTheLists) {
 
 TEST_F(Divider, OpenedFromTheToolMenuAndClosed) {
   // The target at 135 cm lies between L1 and L2 of bore hole A.
-  Target("135");
+  TypeCompositeDepth("135");
   frmMain->mnuBH_Click(1);
   ASSERT_TRUE(frmDivider->Visible);
   EXPECT_FLOAT_EQ(TieAbovePSP, 10);

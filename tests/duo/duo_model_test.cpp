@@ -101,34 +101,14 @@ class DuoProgram : public FreshProgram {
     ImportEventList(kNoLayer);
     frmMain->LaunchDuo();
   }
-  // Bore hole E with ties at 100 and 200 cm, tied to the master's A-01 PSP 10
-  // and A-02 PSP 20; its first row names no master hole.
-  static std::string DuoModel(bool withMasterColumns) {
-    const std::vector<std::vector<std::string>> rows = {
-        {"Top", "Bore hole E (E)", "PSP", "Depth", "Core 9 (F)", "PSP", "Depth", "G (G)", "PSP",
-         "Depth", "H (H)", "PSP", "Depth", "Composite", "Kind (Lake Ostra)", "Hole", "Section",
-         "PSP"},
-        {"E", "E-01-top", "0", "90", "*", "*", "*", "*", "*", "*", "*", "*", "*", "", "-", "---",
-         "---", "---"},
-        {"E", "L1", "10", "100", "*", "*", "*", "*", "*", "*", "*", "*", "*", "100", "T", "A", "01",
-         "10"},
-        {"E", "L2", "110", "200", "*", "*", "*", "*", "*", "*", "*", "*", "*", "200", "T", "A",
-         "02", "20"},
-        {"E", "E-01-bottom", "150", "240", "*", "*", "*", "*", "*", "*", "*", "*", "*", "", "-",
-         "---", "---", "---"}};
-    std::string text;
-    for (const auto& row : rows) {
-      const std::size_t fields = withMasterColumns ? row.size() : 14;
-      for (std::size_t f = 0; f < fields; ++f) text += (f ? ",'" : "'") + row[f];
-      text += "\r\n";
-    }
-    return text;
-  }
+  // Yes to the question for the Duo's event list takes the header-only list.
   void ImportDuoModel(bool withMasterColumns, MsgAnswer answer) {
-    platform.QueueFile(WriteTempFile("duo_20120101.csv", DuoModel(withMasterColumns)));
+    platform.QueueFile(WriteTempFile("duo_20120101.csv", DuoModelText(withMasterColumns)));
     platform.QueueAnswer(answer);
+    if (answer == MsgAnswer::Yes) QueueDuoEvents();
     frm2Main->Command1_Click();
   }
+  void QueueDuoEvents() { platform.QueueFile(WriteTempFile("duo_events_20120201.csv", kNoLayer)); }
 };
 
 TEST_F(DuoProgram, ModelTiesEachRowToTheMasterAndAsksForTheEventList) {
@@ -165,7 +145,7 @@ TEST_F(DuoProgram, ModelTiesEachRowToTheMasterAndAsksForTheEventList) {
   EXPECT_EQ(reddest, 205);
   EXPECT_EQ(palest, 0);
 
-  platform.QueueFile(WriteTempFile("duo_events_20120201.csv", kNoLayer));
+  QueueDuoEvents();
   duo.Command3_Click();
   EXPECT_TRUE(EventListLoaded2);
   EXPECT_FALSE(duo.Shape1.Visible);
@@ -200,7 +180,7 @@ TEST_F(DuoProgram, MasterAgesAreCopiedOnlyOnceBothEventListsStand) {
   EXPECT_EQ(AgeModel(5, 2), "230");  // Duo 200 on the master's scale
   EXPECT_FALSE(AgeModelLoaded2);
 
-  platform.QueueFile(WriteTempFile("duo_events_20120201.csv", kNoLayer));
+  QueueDuoEvents();
   frm2Main->Command3_Click();
   EXPECT_TRUE(AgeModelLoaded2);
   EXPECT_EQ(AgeModel2(5, 1), "100");
@@ -213,10 +193,7 @@ TEST_F(DuoProgram, MasterAgesAreCopiedOnlyOnceBothEventListsStand) {
 // The Duo's own ages: no version check, no confidence levels, its holes also
 // by the letters a to d; any failure is the plain format error.
 TEST_F(DuoProgram, OwnAgeModelKnowsItsHolesByLetter) {
-  platform.QueueFile(WriteTempFile("duo_20120101.csv", DuoModel(true)));
-  platform.QueueAnswer(MsgAnswer::Yes);
-  platform.QueueFile(WriteTempFile("duo_events_20120201.csv", kNoLayer));
-  frm2Main->Command1_Click();
+  ImportDuoModel(true, MsgAnswer::Yes);
   ASSERT_TRUE(EventListLoaded2);
   const std::string levels = ErrorLevelPlus;
   platform.messages.clear();
@@ -246,7 +223,7 @@ TEST_F(DuoProgram, OwnAgeModelKnowsItsHolesByLetter) {
 // depth beside its own.
 TEST_F(DuoProgram, BothFormsConvertPositionsOfBothSets) {
   ImportDuoModel(true, MsgAnswer::No);
-  platform.QueueFile(WriteTempFile("duo_events_20120201.csv", kNoLayer));
+  QueueDuoEvents();
   frm2Main->Command3_Click();
   const std::string positions =
       "Sample,Hole,Section,PSP\r\nS1,E,01,60\r\nS2,A,02,40\r\nS3,Q,01,10\r\n";
@@ -293,10 +270,7 @@ class DuoOnScreen : public DuoProgram {
  protected:
   void SetUp() override {
     DuoProgram::SetUp();
-    platform.QueueFile(WriteTempFile("duo_20120101.csv", DuoModel(true)));
-    platform.QueueAnswer(MsgAnswer::Yes);
-    platform.QueueFile(WriteTempFile("duo_events_20120201.csv", kNoLayer));
-    frm2Main->Command1_Click();
+    ImportDuoModel(true, MsgAnswer::Yes);
     ASSERT_TRUE(DuoOpen && EventListLoaded2);
     platform.messages.clear();
     Count(*frmMain, masterChanges);
@@ -320,7 +294,7 @@ class DuoOnScreen : public DuoProgram {
   int duoChanges = 0;
 };
 
-TEST_F(DuoOnScreen, AHorizonCrossesToTheOtherFormOnceAndOnlyOnce) {
+TEST_F(DuoOnScreen, AHorizonCrossesOnceAndMayLieBelowTheMastersCores) {
   Type(*frmMain, "230");
   EXPECT_EQ(masterChanges, 1);
   EXPECT_EQ(duoChanges, 1);
@@ -335,9 +309,8 @@ TEST_F(DuoOnScreen, AHorizonCrossesToTheOtherFormOnceAndOnlyOnce) {
   // The Duo's columns stand on the master's depth of its horizon.
   EXPECT_FLOAT_EQ(frm2Main->BoreHole(1).ScaleTop, 170 - ViewSpan2 / 2.0f);
   EXPECT_TRUE(platform.messages.empty()) << OnlyMessage();
-}
 
-TEST_F(DuoOnScreen, BelowTheMastersCoresButWithinTheDuosIsNoError) {
+  // Below the master's cores but within the Duo's is no error.
   duoSet.CoreBottom(1) = 500;
   Type(*frmMain, "350");
   EXPECT_TRUE(platform.messages.empty()) << OnlyMessage();

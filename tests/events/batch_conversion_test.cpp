@@ -126,10 +126,11 @@ TEST_F(BatchConversion, PositionsGiveEveryTickedScale) {
                     kEveryScale));
 }
 
-// The EFD is written only beside the composite depth; without it, the age
-// still comes from it.
-TEST_F(BatchConversion, CompositeDepthValues) {
+// Values on each scale give the others.
+TEST_F(BatchConversion, ValuesOfEachScale) {
   ImportAll();
+  // The EFD is written only beside the composite depth; without it, the age
+  // still comes from it.
   ExpectEveryChoice("Sample,Composite depth\r\nC1,135\r\nC2,155\r\nC3,240\r\nC4,9999\r\n",
                     kScaleComposite,
                     {{kScaleEfd, kScaleAge},
@@ -138,14 +139,11 @@ TEST_F(BatchConversion, CompositeDepthValues) {
                       {"\"C2\",\"155\"", "150", "1200,12,22,\"cal BP\""},
                       {"\"C3\",\"240\"", "230", "2800,36,38,\"Hybrid unit\""},
                       {"\"C4\",9999", "9999", "9999,9999,9999,9999"}}});
-}
 
-// The first three samples of a value file are read as text with the header;
-// from the fourth on a field that reads as a number is a number: written bare
-// and without the file's trailing zero, while a quoted field stays text. A
-// missing EFD's unit cell is that cell as it stands.
-TEST_F(BatchConversion, ValueCellsKeepTheTypeTheyWereReadWith) {
-  ImportAll();
+  // The first three samples of a value file are read as text with the header;
+  // from the fourth on a field that reads as a number is a number: written bare
+  // and without the file's trailing zero, while a quoted field stays text. A
+  // missing EFD's unit cell is that cell as it stands.
   const std::string data =
       "Sample,Composite depth\r\nC1,135.0\r\nC2,9999\r\nC3,240\r\n7,155.50\r\n"
       "C5,\"135.0\"\r\nC6,9999\r\n";
@@ -156,27 +154,9 @@ TEST_F(BatchConversion, ValueCellsKeepTheTypeTheyWereReadWith) {
                                           "7,155.5,1200,12,22,\"cal BP\"\r\n"
                                           "\"C5\",\"135.0\",900,9,19,\"cal BP\"\r\n"
                                           "\"C6\",9999,9999,9999,9999,9999\r\n");
-}
 
-// "Depth" is none of the three words: the values are taken for EFD. EFD 151
-// lies below the layer, so 10 cm come back; the junction 150 maps to the
-// layer's top.
-TEST_F(BatchConversion, EfdValuesUnderAnyOtherHeaderWord) {
-  ImportAll();
-  AgePrecision = 1;
-  ExpectEveryChoice("Sample,Depth below lake floor\r\nE1,135\r\nE2,151\r\nE3,150\r\nE4,-9999\r\n",
-                    kScaleEfd,
-                    {{kScaleComposite, kScaleAge},
-                     {{"\"Sample\",\"Depth below lake floor\"", kCdTitle, kAgeTitles},
-                      {"\"E1\",\"135\"", "135", "900,9,19,\"cal BP\""},
-                      {"\"E2\",\"151\"", "161", "1220,12.2,22.2,\"cal BP\""},
-                      {"\"E3\",\"150\"", "150", "1200,12,22,\"cal BP\""},
-                      {"\"E4\",-9999", "-9999", "-9999,-9999,-9999,-9999"}}});
-}
-
-// Age 2400 lies at EFD 190 + 400 / 20 = 210, below the layer: composite 220.
-TEST_F(BatchConversion, AgeValuesComeFirstWithTheirErrors) {
-  ImportAll();
+  // Age values come first with their errors. Age 2400 lies at EFD
+  // 190 + 400 / 20 = 210, below the layer: composite 220.
   ExpectEveryChoice("Sample,Age (cal BP)\r\nT1,2400\r\nT2,1200\r\nT3,-9999\r\nT4,900\r\n",
                     kScaleAge,
                     {{kScaleComposite, kScaleEfd},
@@ -187,6 +167,19 @@ TEST_F(BatchConversion, AgeValuesComeFirstWithTheirErrors) {
                       {"\"T2\",\"1200\",12,22,\"cal BP\"", "150", "150"},
                       {"\"T3\",\"-9999\",-9999,-9999,\"-9999\"", "-9999", "\"-9999\""},
                       {"\"T4\",900,9,19,\"cal BP\"", "135", "135"}}});
+
+  // "Depth" is none of the three words: the values are taken for EFD. EFD 151
+  // lies below the layer, so 10 cm come back; the junction 150 maps to the
+  // layer's top.
+  AgePrecision = 1;
+  ExpectEveryChoice("Sample,Depth below lake floor\r\nE1,135\r\nE2,151\r\nE3,150\r\nE4,-9999\r\n",
+                    kScaleEfd,
+                    {{kScaleComposite, kScaleAge},
+                     {{"\"Sample\",\"Depth below lake floor\"", kCdTitle, kAgeTitles},
+                      {"\"E1\",\"135\"", "135", "900,9,19,\"cal BP\""},
+                      {"\"E2\",\"151\"", "161", "1220,12.2,22.2,\"cal BP\""},
+                      {"\"E3\",\"150\"", "150", "1200,12,22,\"cal BP\""},
+                      {"\"E4\",-9999", "-9999", "-9999,-9999,-9999,-9999"}}});
 }
 
 TEST_F(BatchConversion, FormOffersTheScalesTheFilesAllow) {

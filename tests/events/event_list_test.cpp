@@ -97,9 +97,8 @@ TEST_F(EventListImport, EveryRowStaysInTheListWithItsDepths) {
   EXPECT_EQ(EventList(8, 2), "10.12");
   EXPECT_EQ(MergedEventCount, 1);
   EXPECT_TRUE(EventList(0, 1).empty() && EventList(9, 1).empty());
-}
 
-TEST_F(EventListImport, UnknownSectionSortsToTheEnd) {
+  // An unknown section sorts to the end.
   Import({{"A", "07", "10", "20"}, Layer("30", "40"), {"X", "01", "5", "6"}});
   EXPECT_EQ(EventList(6, 1), "9999");
   EXPECT_EQ(EventList(6, 3), "9999");  // an unknown bore hole too
@@ -243,18 +242,13 @@ class EventFreeDepth : public FreshProgram {
 };
 
 TEST_F(EventFreeDepth, EfdCutsTheLayersOutAndTheWayBackLeavesTheLastOutWithoutAMerge) {
+  // The junction 10 maps to the top; 23 gives 25, not 30: not the inverse
+  // here (with three rows read and one merge the last layer counts: see the
+  // import's test).
   Layers({{10, 12}, {20, 25}}, 2);
-  EXPECT_EQ(ToCd(5), 5);
-  EXPECT_EQ(ToCd(10), 10);  // the junction maps to the top
-  EXPECT_EQ(ToCd(13), 15);
-  EXPECT_EQ(ToCd(18), 20);
-  EXPECT_EQ(ToCd(23), 25);  // not 30: not the inverse here
-  EXPECT_EQ(ToCd(9999), 9999);
-  EXPECT_EQ(ToCd(-9999), -9999);
-
-  // Three rows read, one merge: the last real layer counts.
-  Layers({{10, 12}, {20, 25}}, 3);
-  EXPECT_EQ(ToCd(23), 30);
+  const std::pair<float, double> back[] = {{5, 5},   {10, 10},     {13, 15},      {18, 20},
+                                           {23, 25}, {9999, 9999}, {-9999, -9999}};
+  for (auto [efd, cd] : back) EXPECT_EQ(ToCd(efd), cd) << efd;
 
   // A refused age import takes the layers out.
   Layers({{10, 12}, {20, 25}}, 2);
@@ -270,14 +264,9 @@ TEST_F(EventFreeDepth, EfdCutsTheLayersOutAndTheWayBackLeavesTheLastOutWithoutAM
 
   // Composite depth to EFD cuts the layers out.
   Layers({{10, 12}, {20, 25}}, 2);
-  EXPECT_EQ(ToEfd(5), 5);
-  EXPECT_EQ(ToEfd(10), 10);
-  EXPECT_EQ(ToEfd(11), 10);
-  EXPECT_EQ(ToEfd(12), 10);
-  EXPECT_EQ(ToEfd(15), 13);
-  EXPECT_EQ(ToEfd(22), 18);
-  EXPECT_EQ(ToEfd(30), 23);
-  EXPECT_EQ(ToEfd(9999), 9999 - 7);
+  const std::pair<float, double> cut[] = {{5, 5},   {10, 10}, {11, 10}, {12, 10},
+                                          {15, 13}, {22, 18}, {30, 23}, {9999, 9999 - 7}};
+  for (auto [cd, efd] : cut) EXPECT_EQ(ToEfd(cd), efd) << cd;
   DepthPrecision = 1;
   EXPECT_EQ(ToEfd(15.25f), 13.2);  // half to even at one digit
 }

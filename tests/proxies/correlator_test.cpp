@@ -102,9 +102,8 @@ TEST_F(CorrelationAssist, MarkWithTheFocusIsRedUnderTheGreyedDepth) {
   EXPECT_TRUE(Drawn().empty());
   form.Text1.ForEach([](TextBox& mark) { EXPECT_EQ(mark.Text.Get(), ""); });
   EXPECT_EQ(form.Text2.Text.Get(), "80");
-}
 
-TEST_F(CorrelationAssist, PointerOverTheSliderIsTheArrow) {
+  // The pointer over the main form's slider is the arrow.
   Screen.SetMousePointer(2);
   frmMain->Slider1.MouseMove(0, 0, 0, 0);
   EXPECT_EQ(Screen.MousePointer(), 1);

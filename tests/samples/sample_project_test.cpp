@@ -32,9 +32,12 @@ class SampleProject : public FreshProgram {
     platform.QueueFile(Sample(file));
     ((*frmMain).*button)();
   }
-  void ImportModelEventsAndAges() {
+  void ImportModelAndEvents() {
     ImportThrough("correlation_model_20250314.csv", &FrmMain::Command1_Click);
     ImportThrough("event_layers_20250320.csv", &FrmMain::Command3_Click);
+  }
+  void ImportModelEventsAndAges() {
+    ImportModelAndEvents();
     ImportThrough("age_depth_model_20250402.csv", &FrmMain::Command4_Click);
   }
   double Rounded(const Variant& value, int digits) { return Round(value.ToDouble(), digits); }
@@ -61,8 +64,7 @@ TEST_F(SampleProject, CorrelationModelAndItsConversions) {
 }
 
 TEST_F(SampleProject, EventLayersAndTheirFreeDepths) {
-  ImportThrough("correlation_model_20250314.csv", &FrmMain::Command1_Click);
-  ImportThrough("event_layers_20250320.csv", &FrmMain::Command3_Click);
+  ImportModelAndEvents();
   ASSERT_TRUE(platform.messages.empty());
   EXPECT_EQ(EventCount, 32);
   EXPECT_EQ(MergedEventCount, 29);
@@ -107,10 +109,7 @@ TEST_F(SampleProject, TypedDepthAfterVarvesShowsTheUnitOfTheRecordsEnd) {
   ImportModelEventsAndAges();
   ImportThrough("varve_counts_20250325.csv", &FrmMain::Command5_Click);
   FrmMain& form = *frmMain;
-  form.Text2.SetFocus();
-  int key = 13;
-  form.Text2.KeyDown(key, 0);
-  form.Text2.Text = "1650.4";
+  TypeCompositeDepth("1650.4");
   ASSERT_TRUE(platform.messages.empty());
   EXPECT_EQ(form.Text3.Text.Get(), "1600.62");
   EXPECT_EQ(form.Text4.Text.Get(), "15206");
@@ -164,8 +163,7 @@ TEST_F(SampleProject, ProxyRecordsIntoTheirPanels) {
 }
 
 TEST_F(SampleProject, DuoModelTiedToTheMaster) {
-  ImportThrough("correlation_model_20250314.csv", &FrmMain::Command1_Click);
-  ImportThrough("event_layers_20250320.csv", &FrmMain::Command3_Click);
+  ImportModelAndEvents();
   frmMain->LaunchDuo();
   platform.QueueFile(Sample("duo_correlation_model_20250610.csv"));
   platform.QueueAnswer(MsgAnswer::Yes);

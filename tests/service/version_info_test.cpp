@@ -5,6 +5,7 @@
 #include "core/project_state.h"
 #include "forms/frm_main.h"
 #include "forms/frm_version.h"
+#include "service/program_version.h"
 #include "support/age_files.h"
 
 namespace ostraline {
@@ -21,7 +22,13 @@ class VersionInfo : public AgeProgram {
 };
 
 TEST_F(VersionInfo, eachLabelShowsItsOwnFileOrNotAvailable) {
+  // --version of both programs prints what the version form shows, without
+  // loading the main form.
+  const std::string printed = ProgramVersion();
+  EXPECT_FALSE(frmMain.IsLoaded());
   frmMain->mnuVersion_Click();
+  EXPECT_EQ(printed, "Ostraline " + frmVersion->Label4.Caption.Get());
+  EXPECT_EQ(printed, frmMain->Caption.Get());
   EXPECT_TRUE(frmVersion->Visible);
   EXPECT_EQ(Versions(), "n/a|n/a|n/a|n/a");
   EXPECT_EQ(frmVersion->Label4.Caption.Get(), "7.7.4");

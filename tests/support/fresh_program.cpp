@@ -32,6 +32,13 @@ void FreshProgram::ImportEventList(const std::string& text, const std::string& n
   frmMain->Command3_Click();
 }
 
+void FreshProgram::TypeCompositeDepth(const std::string& depth) {
+  frmMain->Text2.SetFocus();
+  int enter = 13;
+  frmMain->Text2.KeyDown(enter, 0);
+  frmMain->Text2.Text = depth;
+}
+
 std::string FreshProgram::OnlyMessage() const {
   if (platform.messages.size() != 1) return std::to_string(platform.messages.size()) + " messages";
   return platform.messages[0].title + ": " + platform.messages[0].text;

@@ -33,6 +33,8 @@ class FreshProgram : public ::testing::Test {
                    const std::string& name = "model_20110305.csv");
   // Queues the event list and presses its import button.
   void ImportEventList(const std::string& text, const std::string& name = "events_20110401.csv");
+  // The user types a composite depth into the main form's box and presses Enter.
+  static void TypeCompositeDepth(const std::string& depth);
   // The one message box shown, as "title: text".
   std::string OnlyMessage() const;
   // The one message box is the readers' format error with its exclamation icon.

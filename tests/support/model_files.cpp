@@ -84,4 +84,26 @@ std::vector<ModelRow> FourHoleModel() {
   return rows;
 }
 
+std::string DuoModelText(bool withMasterColumns) {
+  const std::vector<std::vector<std::string>> rows = {
+      {"Top", "Bore hole E (E)", "PSP", "Depth", "Core 9 (F)", "PSP", "Depth", "G (G)", "PSP",
+       "Depth", "H (H)", "PSP", "Depth", "Composite", "Kind (Lake Ostra)", "Hole", "Section",
+       "PSP"},
+      {"E", "E-01-top", "0", "90", "*", "*", "*", "*", "*", "*", "*", "*", "*", "", "-", "---",
+       "---", "---"},
+      {"E", "L1", "10", "100", "*", "*", "*", "*", "*", "*", "*", "*", "*", "100", "T", "A", "01",
+       "10"},
+      {"E", "L2", "110", "200", "*", "*", "*", "*", "*", "*", "*", "*", "*", "200", "T", "A", "02",
+       "20"},
+      {"E", "E-01-bottom", "150", "240", "*", "*", "*", "*", "*", "*", "*", "*", "*", "", "-",
+       "---", "---", "---"}};
+  std::string text;
+  for (const auto& row : rows) {
+    const std::size_t fields = withMasterColumns ? row.size() : 14;
+    for (std::size_t f = 0; f < fields; ++f) text += (f ? ",'" : "'") + row[f];
+    text += "\r\n";
+  }
+  return text;
+}
+
 }  // namespace ostraline

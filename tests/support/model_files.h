@@ -30,5 +30,10 @@ std::vector<ModelRow> TwoSectionModel();
 // Four bore holes cut alike: two sections each, ties at composite depth 200,
 // 250, 300 in the first and 350, 450 in the second; every core ends at 500.
 std::vector<ModelRow> FourHoleModel();
+// A Duo's model of bore hole E with ties at 100 and 200 cm, tied to the
+// master's A-01 PSP 10 (110 cm) and A-02 PSP 20 (230 cm) of TwoSectionModel;
+// its first row names no master hole. Without the master columns it is a
+// model of the layout of old.
+std::string DuoModelText(bool withMasterColumns = true);
 
 }  // namespace ostraline
