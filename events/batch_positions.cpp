@@ -23,13 +23,17 @@ namespace {
 // the last that matches wins. With the Duo open the other set's holes follow
 // as 5 to 8.
 int HoleNumber(const BoreHoleSet& set, const BoreHoleSet& other, const std::string& name) {
+  // Most names differ in their length or their first letter.
+  const auto same = [&name](const std::string& known) {
+    return name.size() == known.size() && (name.empty() || (name[0] == known[0] && name == known));
+  };
   int hole = 9999;
   for (int j = 1; j <= 4; ++j) {
-    if (name == set.HoleName(j) || name == set.HoleTitle(j)) hole = j;
+    if (same(set.HoleName(j)) || same(set.HoleTitle(j))) hole = j;
   }
   if (hole != 9999 || !DuoOpen) return hole;
   for (int j = 1; j <= 4; ++j) {
-    if (name == other.HoleName(j) || name == other.HoleTitle(j)) hole = j + 4;
+    if (same(other.HoleName(j)) || same(other.HoleTitle(j))) hole = j + 4;
   }
   return hole;
 }

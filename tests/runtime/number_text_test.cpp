@@ -74,6 +74,9 @@ TEST(NumberTextTest, valReadsEveryDecimalAsTheStandardReaderDoes) {
         << text;
     ASSERT_EQ(std::bit_cast<std::uint64_t>(CDbl(text)), std::bit_cast<std::uint64_t>(expected))
         << text;
+    double plain = 0;
+    ASSERT_TRUE(IsPlainNumber(text, plain)) << text;
+    ASSERT_EQ(std::bit_cast<std::uint64_t>(plain), std::bit_cast<std::uint64_t>(expected)) << text;
   }
 }
 
@@ -84,6 +87,11 @@ TEST(NumberTextTest, strictConversionsFailOnTextThatIsNoNumber) {
   EXPECT_EQ(CDbl("+7"), 7.0);
   EXPECT_EQ(CSng("1.1"), 1.1f);
   EXPECT_EQ(CSng(" 0.5"), 0.5f);
+  // Texts that the two readers read alike only after a closer look.
+  double plain = 0;
+  for (const char* text : {"", "  -2.25 ", "1 2", "&H10", "1e400", "1.5x", "."}) {
+    EXPECT_FALSE(IsPlainNumber(text, plain)) << '"' << text << '"';
+  }
   for (const char* text : {"", "  ", "abc", "1.5x", "1 2", ".", "-", "1e"}) {
     EXPECT_EQ(FailureOf([&] { CDbl(text); }), FailureKind::TypeMismatch) << '"' << text << '"';
     EXPECT_EQ(FailureOf([&] { CSng(text); }), FailureKind::TypeMismatch) << '"' << text << '"';
