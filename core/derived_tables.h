@@ -89,6 +89,9 @@ struct SectionNames {
 struct LayerSums {
   unsigned long long topRevision = 0;
   unsigned long long bottomRevision = 0;
+  // The two tables' whole revisions when the sums were last found standing.
+  unsigned long long topSeen = 0;
+  unsigned long long bottomSeen = 0;
   long count = -1;
   long merged = -1;
   bool built = false;

@@ -18,11 +18,18 @@ const LayerSums* Sums(BoreHoleSet& set) {
   const Table<Single, 2>& bottoms = set.EventBottom;
   const long count = set.EventCount;
   const long merged = set.MergedEventCount;
+  LayerSums& sums = set.Derived.layers;
+  // As long as nothing at all is written to the layers, one comparison a table tells.
+  if (FastLookups && sums.built && sums.topSeen == tops.Revision() &&
+      sums.bottomSeen == bottoms.Revision() && sums.count == count && sums.merged == merged) {
+    return &sums;
+  }
   if (!FastLookups || !tops.Allocated() || !bottoms.Allocated() || count < 0 || merged < 0 ||
       tops.UBound(2) < std::max(count, merged) || bottoms.UBound(2) < std::max(count, merged)) {
     return nullptr;
   }
-  LayerSums& sums = set.Derived.layers;
+  sums.topSeen = tops.Revision();
+  sums.bottomSeen = bottoms.Revision();
   if (sums.built && sums.topRevision == tops.Revision(1) &&
       sums.bottomRevision == bottoms.Revision(1) && sums.count == count && sums.merged == merged) {
     return &sums;
@@ -57,6 +64,8 @@ const LayerSums* Sums(BoreHoleSet& set) {
   sums.bottomRevision = bottoms.Revision(1);
   sums.count = count;
   sums.merged = merged;
+  sums.topSeen = tops.Revision();
+  sums.bottomSeen = bottoms.Revision();
   sums.built = true;
   return &sums;
 }

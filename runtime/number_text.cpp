@@ -246,12 +246,15 @@ double Round(double value, int digits) {
   const double y = value * p;
   // Beyond 2^52 every double is whole: nothing to round at this scale.
   if (std::fabs(y) >= 4503599627370496.0) return value;
-  // value * p == y + err exactly; the sign of (fraction - 1/2) decides.
-  const double err = std::fma(value, p, -y);
   // Below 2^52 a whole number cut from y is its floor, or one above it.
   double f = static_cast<double>(static_cast<long long>(y));
   if (f > y) f -= 1;
-  const double above = (y - f - 0.5) + err;
+  // value * p == y + err exactly, with err within half of y's last place;
+  // the sign of (fraction - 1/2) decides, and err only matters near a half.
+  const double fromHalf = y - f - 0.5;
+  const double above = std::fabs(fromHalf) > std::fabs(y) * 0x1p-52
+                           ? fromHalf
+                           : fromHalf + std::fma(value, p, -y);
   double n = f;
   if (above > 0) {
     n = f + 1;

@@ -158,6 +158,30 @@ TEST(NumberTextTest, roundIsHalfToEvenOnTheExactBinaryValue) {
   EXPECT_EQ(Round(1.2345678901234e300, 3), 1.2345678901234e300);
   EXPECT_TRUE(std::isinf(Round(INFINITY, 2)));
   EXPECT_EQ(FailureOf([] { Round(1.0, -1); }), FailureKind::InvalidProcedureCall);
+
+  // Against the rounding that always takes the exact product's error in:
+  // numbers drawn at random, halves at each place and their neighbours.
+  const auto plain = [](double value, int digits) {
+    const double p = std::pow(10.0, digits);
+    const double y = value * p;
+    if (std::fabs(y) >= 4503599627370496.0) return value;
+    const double f = std::floor(y);
+    const double above = (y - f - 0.5) + std::fma(value, p, -y);
+    const double n = above > 0 ? f + 1 : above < 0 ? f : std::fmod(f, 2.0) == 0 ? f : f + 1;
+    const double r = n / p;
+    return r == 0 ? 0.0 : r;
+  };
+  std::mt19937_64 draw(20261123);
+  for (int i = 0; i < 200000; ++i) {
+    const int digits = static_cast<int>(draw() % 6);
+    const double half = (static_cast<double>(draw() % 2000000) - 1000000 + 0.5) / std::pow(10.0, digits);
+    for (double value : {std::ldexp(static_cast<double>(draw() >> 11), static_cast<int>(draw() % 80) - 70),
+                         half, std::nextafter(half, 0.0), std::nextafter(half, 1e9)}) {
+      ASSERT_EQ(std::bit_cast<std::uint64_t>(Round(value, digits)),
+                std::bit_cast<std::uint64_t>(plain(value, digits)))
+          << value << " " << digits;
+    }
+  }
 }
 
 TEST(NumberTextTest, wholeNumbersOverflowInsteadOfWrapping) {
