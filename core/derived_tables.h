@@ -38,6 +38,7 @@ struct MarkerOrder {
   bool rising = false;
   bool wholeCounts = false;
   std::vector<double> counted;  // the intervals of rows 1..i
+  std::vector<Single> markers;  // rows 0 on, side by side for the searches
 };
 
 // What the composite depth of a position reads of one row of the model for

@@ -58,8 +58,12 @@ const MarkerOrder& Order(BoreHoleSet& set) {
     return order;
   }
   const long last = counts.UBound(2);
+  order.markers.resize(static_cast<std::size_t>(last + 1));
+  for (long i = 0; i <= last; ++i) order.markers[static_cast<std::size_t>(i)] = counts(0, i);
   order.rising = true;
-  for (long i = 2; i <= last && order.rising; ++i) order.rising = counts(0, i - 1) <= counts(0, i);
+  for (long i = 2; i <= last && order.rising; ++i) {
+    order.rising = order.markers[static_cast<std::size_t>(i - 1)] <= order.markers[static_cast<std::size_t>(i)];
+  }
   // Whole counts within 2^22 give intervals a Single holds exactly; their
   // magnitudes summed below 2^24, every partial sum is exact as well.
   constexpr double kExactCount = 1 << 22;
@@ -86,22 +90,23 @@ const MarkerOrder& Order(BoreHoleSet& set) {
   return order;
 }
 
-// Rows 1 on of the record's markers, when they never fall and end below
-// `beyond`: then a search finds where a walk from the first marker would
-// begin to count, and where it would stop.
-bool MarkersRiseBeyond(BoreHoleSet& set, Single beyond) {
+// What the searches know of the record, when its markers from row 1 on never
+// fall and end below `beyond`: then a search finds where a walk from the
+// first marker would begin to count, and where it would stop.
+const MarkerOrder* MarkersRisingBeyond(BoreHoleSet& set, Single beyond) {
   const Table<Single, 2>& counts = set.VarveCounts;
-  if (!FastLookups || !counts.Allocated() || counts.UBound(2) < 1) return false;
-  return Order(set).rising && beyond < counts(0, counts.UBound(2));
+  if (!FastLookups || !counts.Allocated() || counts.UBound(2) < 1) return nullptr;
+  const MarkerOrder& order = Order(set);
+  return order.rising && beyond < order.markers.back() ? &order : nullptr;
 }
 
 // The first row from 1 on whose marker lies beyond `depth`, in a rising record.
-long FirstMarkerBeyond(const Table<Single, 2>& counts, Single depth) {
+long FirstMarkerBeyond(const std::vector<Single>& markers, Single depth) {
   long low = 1;
-  long high = counts.UBound(2);
+  long high = static_cast<long>(markers.size()) - 1;
   while (low < high) {
     const long middle = low + (high - low) / 2;
-    if (counts(0, middle) > depth) {
+    if (markers[static_cast<std::size_t>(middle)] > depth) {
       high = middle;
     } else {
       low = middle + 1;
@@ -112,11 +117,11 @@ long FirstMarkerBeyond(const Table<Single, 2>& counts, Single depth) {
 
 // The first row from `from` on whose marker lies at or beyond `depth` (or
 // beyond it, when `beyond`), in a rising record; `end` if none before it.
-long FirstMarkerFrom(const Table<Single, 2>& counts, long from, long end, Single depth,
+long FirstMarkerFrom(const std::vector<Single>& markers, long from, long end, Single depth,
                      bool beyond) {
   while (from < end) {
     const long middle = from + (end - from) / 2;
-    const Single marker = counts(0, middle);
+    const Single marker = markers[static_cast<std::size_t>(middle)];
     if (beyond ? marker > depth : marker >= depth) {
       end = middle;
     } else {
@@ -150,24 +155,28 @@ VarveSums VarveSumsAt(BoreHoleSet& set, Single depth, Single lowerDepth, Single 
   // The walk adds nothing until a marker passes both the lower point and the
   // depth, nor after the first beyond the upper point.
   const Single start = std::min(lowerDepth, depth);
-  const bool searchable = start == start && depth == depth && lowerDepth == lowerDepth &&
-                          upperDepth == upperDepth && MarkersRiseBeyond(set, upperDepth);
-  if (searchable) {
-    first = FirstMarkerBeyond(counts, start);
+  const MarkerOrder* order = start == start && depth == depth && lowerDepth == lowerDepth &&
+                                     upperDepth == upperDepth
+                                 ? MarkersRisingBeyond(set, upperDepth)
+                                 : nullptr;
+  if (order != nullptr) {
+    const std::vector<Single>& markers = order->markers;
+    first = FirstMarkerBeyond(markers, start);
     // The walk's rows run to the first marker beyond the upper point; in a
     // rising record those of each side lie together.
-    const long end = FirstMarkerFrom(counts, first, counts.UBound(2), upperDepth, true) + 1;
+    const long last = static_cast<long>(markers.size()) - 1;
+    const long end = FirstMarkerFrom(markers, first, last, upperDepth, true) + 1;
     // The walk began beyond the lower of the lower point and the depth: with
     // the lower point above the depth its side begins there, else it is empty
     // and the other side begins there.
     long belowEnd = first;
     long aboveFrom = first;
     if (lowerDepth < depth) {
-      belowEnd = FirstMarkerFrom(counts, first, end, depth, false);
+      belowEnd = FirstMarkerFrom(markers, first, end, depth, false);
       aboveFrom = belowEnd;
-      while (aboveFrom < end && !(counts(0, aboveFrom) > depth)) ++aboveFrom;
+      while (aboveFrom < end && !(markers[static_cast<std::size_t>(aboveFrom)] > depth)) ++aboveFrom;
     }
-    const long aboveEnd = FirstMarkerFrom(counts, aboveFrom, end, upperDepth, false);
+    const long aboveEnd = FirstMarkerFrom(markers, aboveFrom, end, upperDepth, false);
     sums.below = IntervalsOf(set, first, belowEnd);
     sums.above = IntervalsOf(set, aboveFrom, aboveEnd);
     return sums;
@@ -190,8 +199,10 @@ Single VarveOffset(BoreHoleSet& set, Single lowerDepth, Single upperDepth, Singl
   const Table<Single, 2>& counts = set.VarveCounts;
   long i = 1;
   // A marker at or below each point ends each search.
-  if (lowerDepth <= upperDepth && MarkersRiseBeyond(set, upperDepth)) {
-    i = FirstMarkerBeyond(counts, std::nextafter(lowerDepth, -std::numeric_limits<Single>::max()));
+  if (const MarkerOrder* order =
+          lowerDepth <= upperDepth ? MarkersRisingBeyond(set, upperDepth) : nullptr) {
+    i = FirstMarkerBeyond(order->markers,
+                          std::nextafter(lowerDepth, -std::numeric_limits<Single>::max()));
   }
   while (!(lowerDepth <= counts(0, i))) ++i;
   const long anchor = i - 1;
