@@ -1,8 +1,8 @@
 // The rows of the model on the columns: a line and a label for each row of
 // each bore hole, green dots for pins, the tie points on the composite
 // column, and the fixed horizon.
+#include <array>
 #include <string>
-
 #include <utility>
 
 #include "core/project_state.h"
@@ -36,11 +36,27 @@ void PrintAt(PictureBox& column, float x, double y, const std::string& text) {
   column.Print(text);
 }
 
-void MarkBoreHoleRow(BoreHoleSet& set, MainForm& form, const ModelRows& rows, int hole, long r,
+// The columns, each looked up where the first of its rows is drawn: a model
+// holds thousands of rows, most of them out of sight.
+class Columns {
+ public:
+  explicit Columns(MainForm& form) : form_(form) {}
+  PictureBox& operator()(int index) {
+    PictureBox*& found = found_[static_cast<std::size_t>(index)];
+    if (found == nullptr) found = &form_.BoreHole(index);
+    return *found;
+  }
+
+ private:
+  MainForm& form_;
+  std::array<PictureBox*, 5> found_{};
+};
+
+void MarkBoreHoleRow(BoreHoleSet& set, Columns& columns, const ModelRows& rows, int hole, long r,
                      double offset) {
   const Single depth = rows.Depth(hole, r);
   if (depth == 9999) return;
-  PictureBox& column = form.BoreHole(hole);
+  PictureBox& column = columns(hole);
   const double labelY = depth - offset;
   if (!(depth > column.ScaleTop && column.ScaleTop + column.ScaleHeight > labelY)) return;
   const std::string& label = rows.Label(hole, r);
@@ -62,10 +78,10 @@ void MarkBoreHoleRow(BoreHoleSet& set, MainForm& form, const ModelRows& rows, in
 
 // Tie points on the composite column, with their names hanging below their
 // lines, right-aligned.
-void MarkTieRow(MainForm& form, const ModelRows& rows, long r, double offset) {
+void MarkTieRow(MainForm& form, Columns& columns, const ModelRows& rows, long r, double offset) {
   const Single tie = rows.Tie(r);
   if (tie == 9999) return;
-  PictureBox& composite = form.BoreHole(0);
+  PictureBox& composite = columns(0);
   if (!(tie > composite.ScaleTop && composite.ScaleTop + composite.ScaleHeight > tie - offset)) {
     return;
   }
@@ -96,9 +112,10 @@ void DrawFixedHorizon(MainForm& form) {
 void DrawRowMarks(BoreHoleSet& set, MainForm& form, const ModelRows& rows) {
   const double holeOffset = LabelOffset(form, 60, 6);
   const double tieOffset = LabelOffset(form, 60, 5);
+  Columns columns(form);
   for (long r = 1; r <= rows.LastRow(); ++r) {
-    for (int hole = 1; hole <= 4; ++hole) MarkBoreHoleRow(set, form, rows, hole, r, holeOffset);
-    MarkTieRow(form, rows, r, tieOffset);
+    for (int hole = 1; hole <= 4; ++hole) MarkBoreHoleRow(set, columns, rows, hole, r, holeOffset);
+    MarkTieRow(form, columns, rows, r, tieOffset);
   }
 }
 
