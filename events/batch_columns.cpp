@@ -1,6 +1,7 @@
 // The second pass of "Convert and Save": the converted file's columns, in
 // the layout of the scale given (FromKind) and the scales ticked (ToMask).
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "core/project_state.h"
@@ -24,22 +25,25 @@ bool Wants(int scale) {
 }
 
 // The age of one EFD with its errors and unit, as one GetAgeFromEFD gives them.
+// The unit is read where it lies, in the age model or in the data file,
+// while the row is written.
 struct AgeCells {
   Single age;
   Single plus;
   Single minus;
-  Variant unit;
+  std::string_view unit;
+  const Variant* missing = nullptr;
 };
 
 AgeCells AgeOfEfd(BoreHoleSet& set, const Variant& efdCell) {
   const Single efd = CSng(efdCell.TextValue());
   const double age = GetAgeFromEFD(set, efd).ToDouble();
   AgeCells cells{CSng(Round(age, AgePrecision)), CSng(Round(set.AgeErrorPlus, AgePrecision)),
-                 CSng(Round(set.AgeErrorMinus, AgePrecision)), Variant()};
+                 CSng(Round(set.AgeErrorMinus, AgePrecision)), {}, nullptr};
   if (efd == 9999 || efd == -9999) {
     // No rows were looked up: the unit column carries the missing EFD's cell
     // as it stands, text or number.
-    cells.unit = efdCell;
+    cells.missing = &efdCell;
   } else if (const auto& model = std::as_const(set.AgeModel);
              model(9, set.AgeRowLower) == model(9, set.AgeRowUpper)) {
     cells.unit = model(9, set.AgeRowUpper);
@@ -59,7 +63,11 @@ void ErrorTitles(FieldWriter& row) {
 void ErrorCells(FieldWriter& row, const AgeCells& cells) {
   row.Number(cells.plus);
   row.Number(cells.minus);
-  row.Value(cells.unit);
+  if (cells.missing != nullptr) {
+    row.Value(*cells.missing);
+  } else {
+    row.Text(cells.unit);
+  }
 }
 
 void AgeColumns(BoreHoleSet& set, FieldWriter& row, bool header, const ColumnTitles& titles,
