@@ -71,19 +71,27 @@ inline const NumberColumn& Numbers(BoreHoleSet& set, int column) {
 
 // Comparisons are made single with single, arithmetic in double; a cell that
 // is no number fails either way, read from its text as it stands.
-Single CellSingle(BoreHoleSet& set, int column, long row) {
-  if (!FastLookups) return CSng(std::as_const(set.AgeModel)(column, row));
-  const NumberColumn& numbers = Numbers(set, column);
-  if (row >= 0 && row < static_cast<long>(numbers.isSingle.size()) && numbers.isSingle[row])
-    return numbers.singles[row];
+[[gnu::noinline]] Single TextSingle(BoreHoleSet& set, int column, long row) {
   return CSng(std::as_const(set.AgeModel)(column, row));
 }
-double CellDouble(BoreHoleSet& set, int column, long row) {
-  if (!FastLookups) return CDbl(std::as_const(set.AgeModel)(column, row));
-  const NumberColumn& numbers = Numbers(set, column);
-  if (row >= 0 && row < static_cast<long>(numbers.isDouble.size()) && numbers.isDouble[row])
-    return numbers.doubles[row];
+[[gnu::noinline]] double TextDouble(BoreHoleSet& set, int column, long row) {
   return CDbl(std::as_const(set.AgeModel)(column, row));
+}
+inline Single CellSingle(BoreHoleSet& set, int column, long row) {
+  if (FastLookups) {
+    const NumberColumn& numbers = Numbers(set, column);
+    if (row >= 0 && row < static_cast<long>(numbers.isSingle.size()) && numbers.isSingle[row])
+      return numbers.singles[row];
+  }
+  return TextSingle(set, column, row);
+}
+inline double CellDouble(BoreHoleSet& set, int column, long row) {
+  if (FastLookups) {
+    const NumberColumn& numbers = Numbers(set, column);
+    if (row >= 0 && row < static_cast<long>(numbers.isDouble.size()) && numbers.isDouble[row])
+      return numbers.doubles[row];
+  }
+  return TextDouble(set, column, row);
 }
 
 // Whether rows 1..count of the column are all numbers rising strictly: then
