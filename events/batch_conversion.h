@@ -28,9 +28,8 @@ void ConvertFromDataFile(BoreHoleSet& set, MainForm& form);
 int TickedScales(const FrmConversion& form);
 int ChosenScale(const FrmConversion& form);
 
-// A cell that reads as the number 9999 or -9999: no value, passed through.
-bool IsNoValue(const Variant& cell);
-// Nothing for such a cell; what Val reads from it otherwise.
+// Nothing for a cell that reads as the number 9999 or -9999, which stands
+// for no value and is passed through; what Val reads from it otherwise.
 std::optional<double> ValueOfCell(const Variant& cell);
 
 // Composite depth and, with the event list, EFD of every row of

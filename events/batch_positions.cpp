@@ -59,14 +59,14 @@ Variant CompositeOfPosition(BoreHoleSet& set, int hole, const std::string& secti
   return set.IsDuo ? MasterToDuo(depth.ToSingle()) : DuoToMaster(depth.ToSingle());
 }
 
-}  // namespace
-
 bool IsNoValue(const Variant& cell) {
   if (cell.IsEmpty()) return false;
   if (cell.IsText() && !IsNumeric(cell.TextView())) return false;
   const double value = cell.ToDouble();
   return value == 9999 || value == -9999;
 }
+
+}  // namespace
 
 std::optional<double> ValueOfCell(const Variant& cell) {
   // A text that is a number through and through is read once for both tests.

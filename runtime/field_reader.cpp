@@ -141,10 +141,14 @@ Variant FieldReader::ReadVariant() {
   return Variant(field.text);
 }
 
+char* FieldWriter::Room(std::size_t n) {
+  // The room grows as a vector would.
+  if (size_ + n > out_.size()) out_.resize(std::max(2 * out_.size(), size_ + n + 256));
+  return out_.data() + size_;
+}
+
 char* FieldWriter::Start(std::size_t n) {
-  // One more for the comma; the room grows as a vector would.
-  if (size_ + n + 1 > out_.size()) out_.resize(std::max(2 * out_.size(), size_ + n + 256));
-  char* at = out_.data() + size_;
+  char* at = Room(n + 1);
   if (rowStarted_) *at++ = ',';
   rowStarted_ = true;
   return at;
@@ -184,8 +188,7 @@ void FieldWriter::Value(const Variant& value) {
 }
 
 void FieldWriter::EndRow() {
-  rowStarted_ = false;
-  char* at = Start(2);
+  char* at = Room(2);
   *at++ = '\r';
   *at++ = '\n';
   End(at);

@@ -81,6 +81,8 @@ class FieldWriter {
   }
 
  private:
+  // Where the next characters go, with room for n of them.
+  char* Room(std::size_t n);
   // The next field's place, after its comma, with room for n characters.
   char* Start(std::size_t n);
   void End(const char* end) { size_ = static_cast<std::size_t>(end - out_.data()); }

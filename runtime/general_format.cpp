@@ -136,17 +136,9 @@ char* WriteShortDecimal(char* p, const ShortDecimal& decimal) {
   return p + shift + places + before;
 }
 
+// The rounding from the number's binary digits, for any normal number.
 template <class T>
-bool RoundedTo(T value, int precision, Rounded& out) {
-  if (ShortDecimal decimal; ShortDecimalOf(value, precision, decimal)) {
-    // Its digits: the estimate from the bits is one too few at most.
-    const std::uint64_t whole = decimal.whole;
-    int count = (std::bit_width(whole) * 1233) >> 12;
-    if (whole >= static_cast<std::uint64_t>(kTens.values[count])) ++count;
-    out = {whole * static_cast<std::uint64_t>(kTens.values[precision - count]),
-           count - 1 - decimal.places, decimal.negative};
-    return true;
-  }
+bool RoundedBinary(T value, int precision, Rounded& out) {
   if (!std::isnormal(value)) return false;
   const Binary binary = BinaryOf(value);
   // The value lies in [2^(top-1), 2^top): its decimal exponent is one of
@@ -186,10 +178,25 @@ bool RoundedTo(T value, int precision, Rounded& out) {
   return true;
 }
 
+// The same, found first as a short decimal where the number is one.
+template <class T>
+bool RoundedTo(T value, int precision, Rounded& out) {
+  ShortDecimal decimal;
+  if (!ShortDecimalOf(value, precision, decimal)) return RoundedBinary(value, precision, out);
+  // Its digits: the estimate from the bits is one too few at most.
+  const std::uint64_t whole = decimal.whole;
+  int count = (std::bit_width(whole) * 1233) >> 12;
+  if (whole >= static_cast<std::uint64_t>(kTens.values[count])) ++count;
+  out = {whole * static_cast<std::uint64_t>(kTens.values[precision - count]),
+         count - 1 - decimal.places, decimal.negative};
+  return true;
+}
+
+// The digits of the binary rounding: the writer has tried the short decimal.
 template <class T>
 bool RoundedDigits(T value, int precision, Digits& digits) {
   Rounded rounded;
-  if (!RoundedTo(value, precision, rounded)) return false;
+  if (!RoundedBinary(value, precision, rounded)) return false;
   digits.negative = rounded.negative;
   digits.exponent = rounded.exponent;
   // The trailing zeros go first, in steps of eight, four, two and one.
