@@ -1,8 +1,11 @@
 // Rows given as a position (label, bore hole, section, PSP) to composite depth
 // and EFD, each row on its own.
+#include <array>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 #include "core/depth_conversions.h"
 #include "core/hole_lookup.h"
@@ -40,18 +43,61 @@ int HoleNumber(const BoreHoleSet& set, const BoreHoleSet& other, const std::stri
 
 // The composite depth of a PSP inside its section, the section's top and
 // bottom PSP included; 9999 for an unknown hole or section, or a PSP outside.
-Variant CompositeInSection(BoreHoleSet& set, int hole, const std::string& sectionName, double psp) {
-  if (hole < 1 || hole > 4) return Integer(9999);
-  const int section = SectionOrdinalByName(set, hole, sectionName);
-  if (section == 9999) return Integer(9999);
+Variant CompositeInSection(BoreHoleSet& set, int hole, int section, double psp) {
+  if (hole < 1 || hole > 4 || section == 9999) return Integer(9999);
   const double top = ModelPspValue(set, hole, set.SectionTopRow(hole, section));
   const double bottom = ModelPspValue(set, hole, set.SectionBottomRow(hole, section));
   if (psp < top || psp > bottom) return Integer(9999);
   return CompositeFromTrinity(set, hole, section, CSng(psp));
 }
 
+// The ordinal of a row's section in its hole, 1 to 4 of this set and 5 to 8
+// of the other. The names stand still during a batch, so a section given
+// in one to three digits is looked up once per hole; "5", "05" and "005"
+// find the same section.
+class SectionOrdinals {
+ public:
+  SectionOrdinals(BoreHoleSet& set, BoreHoleSet& other) : set_(set), other_(other) {}
+
+  int Of(int hole, const Variant& cell) {
+    if (hole < 1 || hole > 8) return 9999;
+    const std::string_view text = cell.TextView();
+    const int number = FastLookups && cell.IsText() ? DigitsNumber(text) : kNoNumber;
+    if (number == kNoNumber) return Look(hole, cell.ToText());
+    std::vector<int>& known = byNumber_[static_cast<std::size_t>(hole)];
+    if (known.empty()) known.assign(kNumbers, kUnknown);
+    int& ordinal = known[static_cast<std::size_t>(number)];
+    if (ordinal == kUnknown) ordinal = Look(hole, std::string(text));
+    return ordinal;
+  }
+
+ private:
+  static constexpr int kNumbers = 1000;
+  static constexpr int kNoNumber = -1;
+  static constexpr int kUnknown = -1;
+
+  static int DigitsNumber(std::string_view text) {
+    if (text.empty() || text.size() > 3) return kNoNumber;
+    int number = 0;
+    for (const char c : text) {
+      if (c < '0' || c > '9') return kNoNumber;
+      number = number * 10 + (c - '0');
+    }
+    return number;
+  }
+
+  int Look(int hole, const std::string& name) {
+    return hole <= 4 ? SectionOrdinalByName(set_, hole, name)
+                     : SectionOrdinalByName(other_, hole - 4, name);
+  }
+
+  BoreHoleSet& set_;
+  BoreHoleSet& other_;
+  std::array<std::vector<int>, 9> byNumber_;
+};
+
 // A hole of the other set is placed on its scale and mapped to this one's.
-Variant CompositeOfPosition(BoreHoleSet& set, int hole, const std::string& section, double psp) {
+Variant CompositeOfPosition(BoreHoleSet& set, int hole, int section, double psp) {
   if (hole < 5 || hole > 8) return CompositeInSection(set, hole, section, psp);
   BoreHoleSet& other = set.IsDuo ? masterSet : duoSet;
   const Variant depth = CompositeInSection(other, hole - 4, section, psp);
@@ -89,6 +135,7 @@ void ConvertPositionRows(BoreHoleSet& set, MainForm& form) {
   // the row before has its hole.
   std::string holeName;
   int hole = HoleNumber(set, other, holeName);
+  SectionOrdinals sections(set, other);
   for (long row = 1; row <= ConversionRows; ++row) {
     form.ProgressBar1.Value = static_cast<float>(row);
     const Variant& psp = given(3, row);
@@ -97,7 +144,8 @@ void ConvertPositionRows(BoreHoleSet& set, MainForm& form) {
         holeName = name.ToText();
         hole = HoleNumber(set, other, holeName);
       }
-      ConversionTable(4, row) = CompositeOfPosition(set, hole, given(2, row).ToText(), *value);
+      ConversionTable(4, row) =
+          CompositeOfPosition(set, hole, sections.Of(hole, given(2, row)), *value);
     } else {
       ConversionTable(4, row) = psp;
     }

@@ -56,12 +56,7 @@ class ConvertCommand : public FreshProgram {
   void Write(const std::string& name, const std::string& text) const {
     std::ofstream(Path(name), std::ios::binary) << text;
   }
-  std::string Read(const std::string& name) const {
-    std::ifstream in(Path(name), std::ios::binary);
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
-  }
+  std::string Read(const std::string& name) const { return FileContents(Path(name)); }
 
   // Runs the program in the folder; names without a slash are its files.
   Outcome Convert(const std::string& arguments) const {

@@ -15,10 +15,12 @@
 #include "events/event_free_depth.h"
 #include "events/event_state.h"
 #include "events/varve_counts.h"
+#include "forms/frm_conversion.h"
 #include "forms/frm_main.h"
 #include "runtime/failure.h"
 #include "runtime/number_text.h"
 #include "support/fresh_program.h"
+#include "support/model_files.h"
 
 namespace ostraline {
 namespace {
@@ -173,6 +175,38 @@ TEST_F(FastLookups, SameResultsOnTheSampleAndOnItsSpoiledCopies) {
   EventBottom(1, 7) = EventTop(1, 2);
   EventTop(1, 12) = 9999;
   ExpectSameSweep("layers out of order");
+}
+
+// The positions batch keeps each section it has looked up by its digits; a
+// section renamed between two batches is looked up again.
+TEST_F(FastLookups, PositionsBatchFindsTheSectionsTheScanFinds) {
+  std::string data = "Sample,Hole,Section,PSP\r\n";
+  int sample = 0;
+  for (const char* hole : {"A", "B", "C", "D", "Bore hole A", "X"}) {
+    for (const char* section : {"1", "01", "001", "5", "05", "005", "7", "12", "999", "0",
+                                "1000", "abc", "", "3.0", "-2"}) {
+      for (const char* psp : {"0", "12.5", "47", "150"}) {
+        data += "S" + std::to_string(++sample) + "," + hole + "," + section + "," + psp + "\r\n";
+      }
+    }
+  }
+  const std::string input = WriteTempFile("positions.csv", data);
+  const auto convert = [&](bool fast) {
+    ostraline::FastLookups = fast;
+    platform.QueueFile(input);
+    frmMain->Command2_Click();
+    const std::string output = WriteTempFile("converted.csv", "");
+    platform.QueueFile(output);
+    frmConversion->Command1_Click();
+    return FileContents(output);
+  };
+  const std::string plain = convert(false);
+  EXPECT_GT(plain.size(), data.size());
+  EXPECT_TRUE(convert(true) == plain);
+  SectionName(1, 5) = "012";
+  const std::string renamed = convert(false);
+  EXPECT_NE(renamed, plain);
+  EXPECT_TRUE(convert(true) == renamed);
 }
 
 // The sort of a long list of layers finds each row as the scan does: equal

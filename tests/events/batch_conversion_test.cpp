@@ -1,6 +1,4 @@
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -66,13 +64,6 @@ class BatchConversion : public AgeProgram {
     frmMain->Command2_Click();
   }
 
-  static std::string Contents(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
-  }
-
   // Reads the data file, unticks the output scales not `shown` that may be
   // unticked, presses "Convert and Save" and gives back what was written.
   std::string Convert(const std::string& data, int shown = kEveryScale) {
@@ -85,7 +76,7 @@ class BatchConversion : public AgeProgram {
     output = WriteTempFile("converted.csv", "");
     platform.QueueFile(output);
     frmConversion->Command1_Click();
-    return Contents(output);
+    return FileContents(output);
   }
 
   // Every choice of ticks on one data file: the written file and the mask.
@@ -279,7 +270,7 @@ TEST_F(BatchConversion, FailedOrCancelledSaveKeepsTheFileThatWasThere) {
       "Error: The file might be being used by another software. Please close the file and try "
       "again.");
   EXPECT_TRUE(frmConversion.IsLoaded());
-  EXPECT_EQ(Contents(output), "old rows\r\n");
+  EXPECT_EQ(FileContents(output), "old rows\r\n");
   EXPECT_EQ(filesInFolder(), before);
 
   // A folder that does not exist: the same message, the form still open.
@@ -297,7 +288,7 @@ TEST_F(BatchConversion, FailedOrCancelledSaveKeepsTheFileThatWasThere) {
   EXPECT_EQ(OnlyMessage(),
             "Error: Ostraline could not import the file. Please check the file format.");
   EXPECT_FALSE(frmConversion.IsLoaded());
-  EXPECT_EQ(Contents(output), "old rows\r\n");
+  EXPECT_EQ(FileContents(output), "old rows\r\n");
   EXPECT_EQ(filesInFolder(), before);
 }
 

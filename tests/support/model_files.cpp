@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 
 #include <gtest/gtest.h>
 
@@ -45,6 +46,13 @@ std::string WriteTempFile(const std::string& name, const std::string& content) {
   const std::filesystem::path path = folder / name;
   std::ofstream(path, std::ios::binary) << content;
   return path.string();
+}
+
+std::string FileContents(const std::string& path) {
+  std::ifstream in(path, std::ios::binary);
+  std::ostringstream text;
+  text << in.rdbuf();
+  return text.str();
 }
 
 std::vector<ModelRow> TwoSectionModel() {

@@ -22,6 +22,8 @@ ModelRow RowA(const std::string& label, const std::string& psp, const std::strin
 std::string ModelText(const std::vector<ModelRow>& rows, bool longLayout = false);
 // Writes text into a fresh file of that name in the test's temporary folder.
 std::string WriteTempFile(const std::string& name, const std::string& content);
+// A file's bytes as they stand.
+std::string FileContents(const std::string& path);
 
 // Bore hole A in two sections: ties PSP 10 at 110 cm and 50 at 160 cm in
 // section 01, then a gap and ties 20 at 230 and 60 at 270 in section 02,
