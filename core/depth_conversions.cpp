@@ -65,6 +65,8 @@ struct PlainCells {
   // Every row is read.
   long NextStop(long row) const { return row; }
   long NextCd(long row) const { return row; }
+  // The walk reads every tie.
+  const SectionTies* Ties(long) const { return nullptr; }
 };
 
 // A cell that is no number sends the lookup back to the plain cells, which
@@ -97,6 +99,46 @@ struct ParsedCells {
   bool Bottom(long row) const { return At(row).bottom; }
   long NextStop(long row) const { return At(row).nextStop; }
   long NextCd(long row) const { return At(row).nextCd; }
+  // The section's ties from its top row, where the search may stand for the walk.
+  const SectionTies* Ties(long top) const {
+    if (top < 1 || top > cells.lastRow) return nullptr;
+    std::vector<SectionTies>& known = cells.sectionTies[hole];
+    if (known.empty()) known.resize(static_cast<std::size_t>(cells.lastRow + 1));
+    SectionTies& ties = known[static_cast<std::size_t>(top)];
+    if (!ties.built) ties = ChainOfTies(top);
+    return ties.clean ? &ties : nullptr;
+  }
+
+ private:
+  // The stops the walk makes from the top row on, each a tie, a bottom or
+  // a cell that is no number; PSPs parsed from text are never NaN.
+  SectionTies ChainOfTies(long top) const {
+    SectionTies ties;
+    ties.built = true;
+    const std::vector<TrinityRow>& rows = cells.rows[hole];
+    const TrinityRow& first = rows[static_cast<std::size_t>(top)];
+    if (!first.cdKnown || first.cd == 9999 || !first.pspFits) return ties;
+    ties.rows.push_back(top);
+    for (long r = top + 1; r <= cells.lastRow; ++r) {
+      r = rows[static_cast<std::size_t>(r)].nextStop;
+      if (r > cells.lastRow) break;
+      const TrinityRow& row = rows[static_cast<std::size_t>(r)];
+      if (!row.pspKnown || !row.cdKnown) return ties;
+      if (row.psp != 9999 && row.cd != 9999 && row.psp != 0) {
+        if (!row.pspFits) return ties;
+        ties.highest.push_back(ties.rows.size() == 1
+                                   ? row.pspSingle
+                                   : std::max(ties.highest.back(), row.pspSingle));
+        ties.rows.push_back(r);
+      }
+      if (row.bottom) {
+        ties.bottomFound = true;
+        break;
+      }
+    }
+    ties.clean = true;
+    return ties;
+  }
 };
 
 // Whether the cells were read from the model as it stands: the lookup reads
@@ -175,6 +217,61 @@ inline const TrinityCells* Cells(BoreHoleSet& set, int hole) {
   return ReadCells(set, hole);
 }
 
+// From the section's top row down to the first tie, from the second on,
+// whose PSP reaches the position, or to the section's bottom; whether it
+// got there.
+template <class Cells>
+bool WalkTies(const BoreHoleSet& set, const Cells& cells, Single psp, int& count) {
+  // The top row counts by its composite depth alone.
+  if (cells.Cd(TopRowFound) != 9999) {
+    TieRowLast = TopRowFound;
+    count = 1;
+  }
+  bool left = false;
+  for (long r = TopRowFound + 1; r <= set.LastRow; ++r) {
+    // Rows up to the next that may be a tie or a section's bottom only end
+    // the walk, at the first with a composite depth, when the last tie
+    // already lies at or beyond the PSP.
+    const long stop = std::min<long>(cells.NextStop(r), set.LastRow + 1);
+    if (stop > r) {
+      if (cells.PspSingle(TieRowLast) >= psp && TieRowPrevious != 0 && cells.NextCd(r) < stop) {
+        left = true;
+        break;
+      }
+      r = stop;
+      if (r > set.LastRow) break;
+    }
+    const double rowPsp = cells.Psp(r);
+    const double rowCd = cells.Cd(r);
+    // A row with PSP exactly 0 below the top is never a tie.
+    if (rowPsp != 9999 && rowCd != 9999 && rowPsp != 0) {
+      TieRowPrevious = TieRowLast;
+      TieRowLast = static_cast<int>(r);
+      ++count;
+    }
+    if (cells.PspSingle(TieRowLast) >= psp && rowCd != 9999 && TieRowPrevious != 0) {
+      left = true;
+      break;
+    }
+    if (cells.Bottom(r)) {
+      left = true;
+      break;
+    }
+  }
+  return left;
+}
+
+// The same stop found by a search of the highest PSPs.
+bool SearchTies(const SectionTies& ties, Single psp, int& count) {
+  const auto reaching = std::lower_bound(ties.highest.begin(), ties.highest.end(), psp);
+  const auto met = static_cast<std::size_t>(reaching - ties.highest.begin()) + 1;
+  const std::size_t n = std::min(met + 1, ties.rows.size());
+  TieRowLast = static_cast<int>(ties.rows[n - 1]);
+  TieRowPrevious = n >= 2 ? static_cast<int>(ties.rows[n - 2]) : 0;
+  count = static_cast<int>(n);
+  return reaching != ties.highest.end() || ties.bottomFound;
+}
+
 template <class Cells>
 Variant Composite(const BoreHoleSet& set, int hole, int section, Single psp, const Cells& cells) {
   try {
@@ -187,42 +284,9 @@ Variant Composite(const BoreHoleSet& set, int hole, int section, Single psp, con
     TieRowLast = 0;
     int count = 0;
     TopRowFound = set.SectionTopRow(hole, section);
-    // The top row counts by its composite depth alone.
-    if (cells.Cd(TopRowFound) != 9999) {
-      TieRowLast = TopRowFound;
-      count = 1;
-    }
-    bool left = false;
-    for (long r = TopRowFound + 1; r <= set.LastRow; ++r) {
-      // Rows up to the next that may be a tie or a section's bottom only end
-      // the walk, at the first with a composite depth, when the last tie
-      // already lies at or beyond the PSP.
-      const long stop = std::min<long>(cells.NextStop(r), set.LastRow + 1);
-      if (stop > r) {
-        if (cells.PspSingle(TieRowLast) >= psp && TieRowPrevious != 0 && cells.NextCd(r) < stop) {
-          left = true;
-          break;
-        }
-        r = stop;
-        if (r > set.LastRow) break;
-      }
-      const double rowPsp = cells.Psp(r);
-      const double rowCd = cells.Cd(r);
-      // A row with PSP exactly 0 below the top is never a tie.
-      if (rowPsp != 9999 && rowCd != 9999 && rowPsp != 0) {
-        TieRowPrevious = TieRowLast;
-        TieRowLast = static_cast<int>(r);
-        ++count;
-      }
-      if (cells.PspSingle(TieRowLast) >= psp && rowCd != 9999 && TieRowPrevious != 0) {
-        left = true;
-        break;
-      }
-      if (cells.Bottom(r)) {
-        left = true;
-        break;
-      }
-    }
+    const SectionTies* ties = cells.Ties(TopRowFound);
+    const bool left =
+        ties != nullptr ? SearchTies(*ties, psp, count) : WalkTies(set, cells, psp, count);
     if (!left || count == 0) return Variant();
     const double p = psp;
     if (count == 1) return cells.Cd(TieRowLast) + (p - cells.Psp(TieRowLast));

@@ -59,6 +59,21 @@ struct TrinityRow {
   bool bottom = false;
 };
 
+// The ties of one section in the order in which the walk from its top row
+// meets them, the top row first, up to its bottom row or the model's end;
+// with the highest PSP (as a Single) met from the second tie on. The walk
+// stops at the first tie from the second on whose PSP reaches the position,
+// so the highest PSPs, which never fall, find it by a search. `clean` is
+// false where a cell the walk reads is no number or the top is no tie: the
+// walk runs there as before.
+struct SectionTies {
+  bool built = false;
+  bool clean = false;
+  bool bottomFound = false;
+  std::vector<long> rows;
+  std::vector<Single> highest;  // highest[k]: over the ties rows[1..k+1]
+};
+
 struct TrinityCells {
   unsigned long long modelRevision = 0;
   unsigned long long tieRevision = 0;
@@ -68,6 +83,8 @@ struct TrinityCells {
   long lastRow = -1;
   bool built = false;
   std::vector<TrinityRow> rows[5];
+  // By top row, filled as sections are searched.
+  mutable std::vector<SectionTies> sectionTies[5];
 };
 
 // Each bore hole's sections by name: the first with the name itself and the

@@ -154,6 +154,8 @@ TEST_F(FastLookups, SameResultsOnTheSampleAndOnItsSpoiledCopies) {
   TieCell(1, SectionTopRow(2, 9) + 2) = "";
   // A section renamed after its name was asked for.
   SectionName(4, 2) = "005";
+  // A last section without its bottom row: the walk runs off the model.
+  ModelCell(0, 2, 0, SectionBottomRow(2, SectionCount(2))) = "no end";
   ExpectSameSweep("model cells spoiled");
 
   // Equal and falling ages and depths in the age-depth model, and a cell
