@@ -13,6 +13,7 @@ namespace {
 // Events nest: a handler may open a pop-up menu whose click is an event too.
 int g_depth = 0;
 long g_escaped = 0;
+std::string g_lastEscapeSource;
 
 bool AnyFormLoaded() {
   for (const FormSlot* slot : FormSlot::All()) {
@@ -23,7 +24,7 @@ bool AnyFormLoaded() {
 
 }  // namespace
 
-void ForwardEvent(const std::function<void()>& event) {
+void ForwardEvent(const std::string& source, const std::function<void()>& event) {
   ++g_depth;
   try {
     event();
@@ -31,7 +32,8 @@ void ForwardEvent(const std::function<void()>& event) {
     // A failure that no handler traps ends in the run-time's error box; the
     // program goes on, so that nothing imported is lost.
     ++g_escaped;
-    std::fprintf(stderr, "ostraline: a handler failed: %s\n", failure.what());
+    g_lastEscapeSource = source;
+    std::fprintf(stderr, "ostraline: a handler failed (%s): %s\n", source.c_str(), failure.what());
     try {
       MsgBox(std::string("Run-time error: ") + failure.what(), MsgButtons::Ok, "Ostraline",
              MsgIcon::Critical);
@@ -50,6 +52,10 @@ void ForwardEvent(const std::function<void()>& event) {
 
 long EscapedFailures() {
   return g_escaped;
+}
+
+const std::string& LastEscapeSource() {
+  return g_lastEscapeSource;
 }
 
 }  // namespace ostraline

@@ -99,7 +99,8 @@ void ForwardToImage(const MouseHandler& handler, const Control& image, int butto
   const QPointF corner = QPointF(ContainerOffset(image));
   const float x = ToTwips(at.x() - corner.x()) - image.Left.Get();
   const float y = ToTwips(at.y() - corner.y()) - image.Top.Get();
-  ForwardEvent([&] { handler(button, shift, x, y); });
+  ForwardEvent(image.Parent().Name() + "." + image.FullName(),
+               [&] { handler(button, shift, x, y); });
 }
 
 }  // namespace
@@ -162,7 +163,9 @@ void FormCanvas::mousePressEvent(QMouseEvent* event) {
     ForwardToImage(image->MouseDown, *image, button, shift, at);
     return;
   }
-  ForwardEvent([&] { form_->Form_MouseDown(button, shift, ToTwips(at.x()), ToTwips(at.y())); });
+  ForwardEvent(form_->Name() + ".Form_MouseDown", [&] {
+    form_->Form_MouseDown(button, shift, ToTwips(at.x()), ToTwips(at.y()));
+  });
 }
 
 // The double click of an image is its own event; elsewhere it is a press.
@@ -172,7 +175,7 @@ void FormCanvas::mouseDoubleClickEvent(QMouseEvent* event) {
     if (image->DblClick) {
       // The release that follows belongs to the image too.
       captured_ = image;
-      ForwardEvent([image] { image->DblClick(); });
+      ForwardEvent(form_->Name() + "." + image->FullName(), [image] { image->DblClick(); });
       return;
     }
   }
@@ -190,7 +193,9 @@ void FormCanvas::mouseMoveEvent(QMouseEvent* event) {
     ForwardToImage(image->MouseMove, *image, buttons, shift, at);
     return;
   }
-  ForwardEvent([&] { form_->Form_MouseMove(buttons, shift, ToTwips(at.x()), ToTwips(at.y())); });
+  ForwardEvent(form_->Name() + ".Form_MouseMove", [&] {
+    form_->Form_MouseMove(buttons, shift, ToTwips(at.x()), ToTwips(at.y()));
+  });
 }
 
 void FormCanvas::mouseReleaseEvent(QMouseEvent* event) {
@@ -202,7 +207,7 @@ void FormCanvas::mouseReleaseEvent(QMouseEvent* event) {
     return;
   }
   if (event->button() != Qt::LeftButton || !rect().contains(event->position().toPoint())) return;
-  ForwardEvent([this] { form_->Form_Click(); });
+  ForwardEvent(form_->Name() + ".Form_Click", [this] { form_->Form_Click(); });
 }
 
 }  // namespace ostraline

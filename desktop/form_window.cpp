@@ -228,9 +228,11 @@ bool FormWindow::event(QEvent* event) {
     const bool fromOtherForm = g_lastActive != this;
     showActivationPending_ = false;
     g_lastActive = this;
-    if (!fromShow && fromOtherForm) ForwardEvent([this] { form_->Form_Activate(); });
+    if (!fromShow && fromOtherForm) {
+      ForwardEvent(form_->Name() + ".Form_Activate", [this] { form_->Form_Activate(); });
+    }
     if ((fromShow || fromOtherForm) && form_ != nullptr) {
-      ForwardEvent([this] { form_->Form_GotFocus(); });
+      ForwardEvent(form_->Name() + ".Form_GotFocus", [this] { form_->Form_GotFocus(); });
     }
   }
   return QMainWindow::event(event);
@@ -241,7 +243,9 @@ void FormWindow::closeEvent(QCloseEvent* event) {
   // window with it.
   event->ignore();
   if (form_ == nullptr) return;
-  if (FormSlot* slot = FormSlot::Find(form_->Name())) ForwardEvent([slot] { slot->Unload(); });
+  if (FormSlot* slot = FormSlot::Find(form_->Name())) {
+    ForwardEvent(form_->Name() + ".Unload", [slot] { slot->Unload(); });
+  }
 }
 
 void FormWindow::resizeEvent(QResizeEvent* event) {
@@ -253,7 +257,7 @@ void FormWindow::resizeEvent(QResizeEvent* event) {
   form_->Width.SetQuietly(ToTwips(client.width() + 2 * kBorderPixels));
   form_->Height.SetQuietly(ToTwips(client.height() + kCaptionPixels + 2 * kBorderPixels +
                                    (hasMenuBar_ ? kMenuBarPixels : 0)));
-  ForwardEvent([this] { form_->Form_Resize(); });
+  ForwardEvent(form_->Name() + ".Form_Resize", [this] { form_->Form_Resize(); });
 }
 
 void FormWindow::moveEvent(QMoveEvent* event) {
