@@ -34,6 +34,7 @@ struct NumberColumn {
 struct MarkerOrder {
   unsigned long long markerRevision = 0;
   unsigned long long countRevision = 0;
+  unsigned long long tableSeen = 0;  // the whole record's, when last found standing
   bool built = false;
   bool rising = false;
   bool wholeCounts = false;

@@ -53,8 +53,11 @@ namespace {
 const MarkerOrder& Order(BoreHoleSet& set) {
   const Table<Single, 2>& counts = set.VarveCounts;
   MarkerOrder& order = set.Derived.varveMarkers;
+  // As long as nothing at all is written to the record, one comparison tells.
+  if (order.built && order.tableSeen == counts.Revision()) return order;
   if (order.built && order.markerRevision == counts.Revision(0) &&
       order.countRevision == counts.Revision(1)) {
+    order.tableSeen = counts.Revision();
     return order;
   }
   const long last = counts.UBound(2);
@@ -86,6 +89,7 @@ const MarkerOrder& Order(BoreHoleSet& set) {
   }
   order.markerRevision = counts.Revision(0);
   order.countRevision = counts.Revision(1);
+  order.tableSeen = counts.Revision();
   order.built = true;
   return order;
 }
@@ -133,10 +137,9 @@ long FirstMarkerFrom(const std::vector<Single>& markers, long from, long end, Si
 
 // The intervals of rows from..end-1 summed as the walk sums them, one by
 // one from zero; at once where every partial sum is exact.
-Single IntervalsOf(BoreHoleSet& set, long from, long end) {
+Single IntervalsOf(const BoreHoleSet& set, const MarkerOrder& order, long from, long end) {
   Single sum = 0;
   if (from >= end) return sum;
-  const MarkerOrder& order = Order(set);
   if (order.wholeCounts) {
     return static_cast<Single>(order.counted[static_cast<std::size_t>(end - 1)] -
                                order.counted[static_cast<std::size_t>(from - 1)]);
@@ -177,8 +180,8 @@ VarveSums VarveSumsAt(BoreHoleSet& set, Single depth, Single lowerDepth, Single 
       while (aboveFrom < end && !(markers[static_cast<std::size_t>(aboveFrom)] > depth)) ++aboveFrom;
     }
     const long aboveEnd = FirstMarkerFrom(markers, aboveFrom, end, upperDepth, false);
-    sums.below = IntervalsOf(set, first, belowEnd);
-    sums.above = IntervalsOf(set, aboveFrom, aboveEnd);
+    sums.below = IntervalsOf(set, *order, first, belowEnd);
+    sums.above = IntervalsOf(set, *order, aboveFrom, aboveEnd);
     return sums;
   }
   for (long i = first;; ++i) {
