@@ -289,6 +289,8 @@ template <class T>
 double ReadBack(T value, int precision) {
   double nearest = 0;
   if (value == 0) return 0;
+  // A short decimal is its own text, and the text reads back as the number.
+  if (ShortDecimal decimal; ShortDecimalOf(value, precision, decimal)) return value;
   if (NearestToRounded(value, precision, nearest)) return nearest;
   return Val(RoundedGeneral(value, precision));
 }
