@@ -31,6 +31,8 @@ int ChosenScale(const FrmConversion& form);
 // Nothing for a cell that reads as the number 9999 or -9999, which stands
 // for no value and is passed through; what Val reads from it otherwise.
 std::optional<double> ValueOfCell(const Variant& cell);
+// The same as a Single, for the conversions that take one.
+std::optional<Single> SingleOfCell(const Variant& cell);
 
 // Composite depth and, with the event list, EFD of every row of
 // ConversionTable; the bar of the main form advances by row. A bore hole of

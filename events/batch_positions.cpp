@@ -1,6 +1,7 @@
 // Rows given as a position (label, bore hole, section, PSP) to composite depth
 // and EFD, each row on its own.
 #include <array>
+#include <cmath>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -17,6 +18,7 @@
 #include "events/event_free_depth.h"
 #include "events/event_state.h"
 #include "forms/frm_main.h"
+#include "runtime/general_format.h"
 #include "runtime/number_text.h"
 
 namespace ostraline {
@@ -124,6 +126,17 @@ std::optional<double> ValueOfCell(const Variant& cell) {
   return cell.TextValue();
 }
 
+// A depth just converted is a Double, mostly far from 9999 and from every
+// halfway point between two Singles: its printed text need not be made.
+std::optional<Single> SingleOfCell(const Variant& cell) {
+  if (cell.IsDouble() && std::abs(std::abs(cell.ToDouble()) - 9999) > 1) {
+    if (const std::optional<float> single = PrintedSingle(cell.ToDouble())) return *single;
+  }
+  const std::optional<double> value = ValueOfCell(cell);
+  if (!value) return std::nullopt;
+  return CSng(*value);
+}
+
 void ConvertPositionRows(BoreHoleSet& set, MainForm& form) {
   BoreHoleSet& other = set.IsDuo ? masterSet : duoSet;
   form.ProgressBar1.Max = static_cast<float>(ConversionRows);
@@ -151,8 +164,8 @@ void ConvertPositionRows(BoreHoleSet& set, MainForm& form) {
     }
     if (set.EventListLoaded) {
       const Variant& cd = given(4, row);
-      if (const std::optional<double> value = ValueOfCell(cd)) {
-        ConversionTable(5, row) = CDToEFD(set, CSng(*value));
+      if (const std::optional<Single> value = SingleOfCell(cd)) {
+        ConversionTable(5, row) = CDToEFD(set, *value);
       } else {
         ConversionTable(5, row) = cd;
       }

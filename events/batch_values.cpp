@@ -36,8 +36,8 @@ bool ConvertValuesFirstPass(BoreHoleSet& set, MainForm& form, const ColumnTitles
   for (long row = 1; row <= ValueRows; ++row) {
     form.ProgressBar1.Value = static_cast<float>(row);
     const Variant& given = ValueTable(2, row);
-    if (const std::optional<double> value = ValueOfCell(given)) {
-      ValueTable(3, row) = convert(set, CSng(*value));
+    if (const std::optional<Single> value = SingleOfCell(given)) {
+      ValueTable(3, row) = convert(set, *value);
     } else {
       ValueTable(3, row) = given;
     }

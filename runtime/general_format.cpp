@@ -328,4 +328,20 @@ double PrintedValue(double value) {
   return ReadBack(value, 15);
 }
 
+std::optional<float> PrintedSingle(double value) {
+  // Normal Singles only, whose neighbours lie a whole step apart; zero
+  // reads back without its sign.
+  const double size = std::abs(value);
+  if (!(size >= 1e-30 && size <= 1e30)) return std::nullopt;
+  const auto single = static_cast<float>(value);
+  const double below = std::nextafter(single, -INFINITY);
+  const double above = std::nextafter(single, INFINITY);
+  const double halfStep = std::min(above - single, single - below) / 2;
+  // Fifteen digits move the number by half a unit of the fifteenth at most,
+  // under 5.2e-15 of it with the reading back: 2^-47 is more.
+  const double moved = size * 0x1p-47;
+  if (std::abs(value - single) + moved >= halfStep) return std::nullopt;
+  return single;
+}
+
 }  // namespace ostraline

@@ -3,6 +3,7 @@
 // capitals and without the C locale: the desktop toolkit installs the user's
 // locale, whose decimal comma would be written otherwise.
 #include <cstddef>
+#include <optional>
 #include <string>
 
 namespace ostraline {
@@ -25,5 +26,10 @@ char* WriteGeneral(char* at, double value);
 // What Val reads from that text, found without writing it.
 double PrintedValue(float value);
 double PrintedValue(double value);
+// The Single of what Val reads from a Double's text, where the number lies
+// so far from every halfway point between two Singles that its fifteen
+// digits cannot move it across one: then it is the number's own nearest
+// Single. Nothing where that is not sure.
+std::optional<float> PrintedSingle(double value);
 
 }  // namespace ostraline

@@ -9,6 +9,7 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <random>
 #include <string>
 
@@ -99,6 +100,51 @@ TEST(GeneralFormatTest, shortDigitsGiveTheRoundedTextOfEveryDouble) {
     ExpectSameText(d);
     ExpectSameText(-d);
   }
+}
+
+// The Single of a Double's text, where it is given without the text: the
+// same as the long way, also a few units of the last place from a halfway
+// point between two Singles; and given for nearly every depth.
+TEST(GeneralFormatTest, printedSingleIsTheSingleOfTheText) {
+  long given = 0;
+  const auto expectSame = [&given](double d) {
+    if (const std::optional<float> single = PrintedSingle(d)) {
+      ++given;
+      ASSERT_EQ(std::bit_cast<std::uint32_t>(*single),
+                std::bit_cast<std::uint32_t>(CSng(PrintedValue(d))))
+          << std::bit_cast<std::uint64_t>(d);
+    }
+  };
+  std::mt19937_64 draw(20261124);
+  for (int i = 0; i < 200000; ++i) {
+    const double depth = static_cast<double>(draw() % 100000000) / 9973.0;
+    expectSame(depth);
+    expectSame(-depth);
+    expectSame(std::ldexp(static_cast<double>(draw() >> 11), static_cast<int>(draw() % 200) - 150));
+    // Around the halfway point above a Single, by a few units of the last
+    // place and by a few in the fifteenth digit.
+    const float single = std::bit_cast<float>(static_cast<std::uint32_t>(draw() % 0x7f000000));
+    const double half = (static_cast<double>(single) + std::nextafter(single, INFINITY)) / 2;
+    const double away = static_cast<double>(static_cast<int>(draw() % 201) - 100);
+    expectSame(half + away * half * 0x1p-52);
+    expectSame(half + away * half * 1e-16);
+    expectSame(half + away * half * 1e-15);
+  }
+  // Below a power of two the step down is half the step up.
+  for (int e = -90; e <= 90; ++e) {
+    const float power = std::ldexp(1.0f, e);
+    const double half = (static_cast<double>(power) + std::nextafter(power, 0.0f)) / 2;
+    for (int away = -100; away <= 100; ++away) {
+      expectSame(half + away * half * 0x1p-52);
+      expectSame(half + away * half * 1e-15);
+    }
+  }
+  EXPECT_GT(given, 600000);
+  for (double d : {0.0, -0.0, 9999.0, 1e30, 1e31, 1e-31, 3.4028234663852886e38,
+                   std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity()}) {
+    expectSame(d);
+  }
+  EXPECT_FALSE(PrintedSingle(-0.0).has_value());
 }
 
 }  // namespace
