@@ -11,7 +11,6 @@
 #include "desktop/event_forwarding.h"
 #include "desktop/fonts.h"
 #include "desktop/key_codes.h"
-#include "forms/form.h"
 
 namespace ostraline {
 
@@ -75,7 +74,7 @@ QPointF ControlAdapter::MouseUnits(const QPointF& position) const {
 }
 
 void ControlAdapter::Forward(const std::function<void()>& event) {
-  if (model_ != nullptr) ForwardEvent(model_->Parent().Name() + "." + model_->FullName(), event);
+  if (model_ != nullptr) ForwardEvent(*model_, event);
 }
 
 void ControlAdapter::Watch(QWidget* widget) {

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <exception>
 
+#include "forms/controls.h"
 #include "forms/form.h"
 #include "forms/platform.h"
 
@@ -24,7 +25,13 @@ bool AnyFormLoaded() {
 
 }  // namespace
 
-void ForwardEvent(const std::string& source, const std::function<void()>& event) {
+EventSource::EventSource(const Control& control) : form_(&control.Parent()), control_(&control) {}
+
+std::string EventSource::Name() const {
+  return form_->Name() + "." + (control_ != nullptr ? control_->FullName() : event_);
+}
+
+void ForwardEvent(const EventSource& source, const std::function<void()>& event) {
   ++g_depth;
   try {
     event();
@@ -32,8 +39,10 @@ void ForwardEvent(const std::string& source, const std::function<void()>& event)
     // A failure that no handler traps ends in the run-time's error box; the
     // program goes on, so that nothing imported is lost.
     ++g_escaped;
-    g_lastEscapeSource = source;
-    std::fprintf(stderr, "ostraline: a handler failed (%s): %s\n", source.c_str(), failure.what());
+    // The forms unloaded meanwhile are still there: they are freed below.
+    g_lastEscapeSource = source.Name();
+    std::fprintf(stderr, "ostraline: a handler failed (%s): %s\n", g_lastEscapeSource.c_str(),
+                 failure.what());
     try {
       MsgBox(std::string("Run-time error: ") + failure.what(), MsgButtons::Ok, "Ostraline",
              MsgIcon::Critical);

@@ -99,8 +99,7 @@ void ForwardToImage(const MouseHandler& handler, const Control& image, int butto
   const QPointF corner = QPointF(ContainerOffset(image));
   const float x = ToTwips(at.x() - corner.x()) - image.Left.Get();
   const float y = ToTwips(at.y() - corner.y()) - image.Top.Get();
-  ForwardEvent(image.Parent().Name() + "." + image.FullName(),
-               [&] { handler(button, shift, x, y); });
+  ForwardEvent(image, [&] { handler(button, shift, x, y); });
 }
 
 }  // namespace
@@ -163,7 +162,7 @@ void FormCanvas::mousePressEvent(QMouseEvent* event) {
     ForwardToImage(image->MouseDown, *image, button, shift, at);
     return;
   }
-  ForwardEvent(form_->Name() + ".Form_MouseDown", [&] {
+  ForwardEvent({*form_, "Form_MouseDown"}, [&] {
     form_->Form_MouseDown(button, shift, ToTwips(at.x()), ToTwips(at.y()));
   });
 }
@@ -175,7 +174,7 @@ void FormCanvas::mouseDoubleClickEvent(QMouseEvent* event) {
     if (image->DblClick) {
       // The release that follows belongs to the image too.
       captured_ = image;
-      ForwardEvent(form_->Name() + "." + image->FullName(), [image] { image->DblClick(); });
+      ForwardEvent(*image, [image] { image->DblClick(); });
       return;
     }
   }
@@ -193,7 +192,7 @@ void FormCanvas::mouseMoveEvent(QMouseEvent* event) {
     ForwardToImage(image->MouseMove, *image, buttons, shift, at);
     return;
   }
-  ForwardEvent(form_->Name() + ".Form_MouseMove", [&] {
+  ForwardEvent({*form_, "Form_MouseMove"}, [&] {
     form_->Form_MouseMove(buttons, shift, ToTwips(at.x()), ToTwips(at.y()));
   });
 }
@@ -207,7 +206,7 @@ void FormCanvas::mouseReleaseEvent(QMouseEvent* event) {
     return;
   }
   if (event->button() != Qt::LeftButton || !rect().contains(event->position().toPoint())) return;
-  ForwardEvent(form_->Name() + ".Form_Click", [this] { form_->Form_Click(); });
+  ForwardEvent({*form_, "Form_Click"}, [this] { form_->Form_Click(); });
 }
 
 }  // namespace ostraline

@@ -229,10 +229,10 @@ bool FormWindow::event(QEvent* event) {
     showActivationPending_ = false;
     g_lastActive = this;
     if (!fromShow && fromOtherForm) {
-      ForwardEvent(form_->Name() + ".Form_Activate", [this] { form_->Form_Activate(); });
+      ForwardEvent({*form_, "Form_Activate"}, [this] { form_->Form_Activate(); });
     }
     if ((fromShow || fromOtherForm) && form_ != nullptr) {
-      ForwardEvent(form_->Name() + ".Form_GotFocus", [this] { form_->Form_GotFocus(); });
+      ForwardEvent({*form_, "Form_GotFocus"}, [this] { form_->Form_GotFocus(); });
     }
   }
   return QMainWindow::event(event);
@@ -244,7 +244,7 @@ void FormWindow::closeEvent(QCloseEvent* event) {
   event->ignore();
   if (form_ == nullptr) return;
   if (FormSlot* slot = FormSlot::Find(form_->Name())) {
-    ForwardEvent(form_->Name() + ".Unload", [slot] { slot->Unload(); });
+    ForwardEvent({*form_, "Unload"}, [slot] { slot->Unload(); });
   }
 }
 
@@ -257,7 +257,7 @@ void FormWindow::resizeEvent(QResizeEvent* event) {
   form_->Width.SetQuietly(ToTwips(client.width() + 2 * kBorderPixels));
   form_->Height.SetQuietly(ToTwips(client.height() + kCaptionPixels + 2 * kBorderPixels +
                                    (hasMenuBar_ ? kMenuBarPixels : 0)));
-  ForwardEvent(form_->Name() + ".Form_Resize", [this] { form_->Form_Resize(); });
+  ForwardEvent({*form_, "Form_Resize"}, [this] { form_->Form_Resize(); });
 }
 
 void FormWindow::moveEvent(QMoveEvent* event) {

@@ -178,20 +178,6 @@ bool RoundedBinary(T value, int precision, Rounded& out) {
   return true;
 }
 
-// The same, found first as a short decimal where the number is one.
-template <class T>
-bool RoundedTo(T value, int precision, Rounded& out) {
-  ShortDecimal decimal;
-  if (!ShortDecimalOf(value, precision, decimal)) return RoundedBinary(value, precision, out);
-  // Its digits: the estimate from the bits is one too few at most.
-  const std::uint64_t whole = decimal.whole;
-  int count = (std::bit_width(whole) * 1233) >> 12;
-  if (whole >= static_cast<std::uint64_t>(kTens.values[count])) ++count;
-  out = {whole * static_cast<std::uint64_t>(kTens.values[precision - count]),
-         count - 1 - decimal.places, decimal.negative};
-  return true;
-}
-
 // The digits of the binary rounding: the writer has tried the short decimal.
 template <class T>
 bool RoundedDigits(T value, int precision, Digits& digits) {
@@ -220,11 +206,12 @@ bool RoundedDigits(T value, int precision, Digits& digits) {
   return true;
 }
 
-// The Double nearest to the rounded digits.
+// The Double nearest to the digits of the binary rounding: the reading back
+// has tried the short decimal.
 template <class T>
 bool NearestToRounded(T value, int precision, double& out) {
   Rounded rounded;
-  if (!RoundedTo(value, precision, rounded) ||
+  if (!RoundedBinary(value, precision, rounded) ||
       !ExactDecimal(rounded.whole, rounded.exponent - (precision - 1), out)) {
     return false;
   }

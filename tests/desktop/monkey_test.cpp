@@ -199,7 +199,7 @@ class Monkey : public ShellTest {
           window->close();
         } else if (frmMain->mnuOLDuo.Enabled) {
           last = "menu Open Ostraline Duo / mnuOLDuo";
-          ForwardEvent("frmMain.mnuOLDuo", [] { frmMain->mnuOLDuo.Click(); });
+          ForwardEvent(frmMain->mnuOLDuo, [] { frmMain->mnuOLDuo.Click(); });
         }
         break;
     }
