@@ -10,11 +10,11 @@
 #include "events/batch_conversion.h"
 #include "events/batch_output_file.h"
 #include "events/batch_state.h"
+#include "events/converted_row_writer.h"
 #include "events/event_free_depth.h"
 #include "events/event_state.h"
 #include "forms/frm2_main.h"
 #include "forms/frm_main.h"
-#include "runtime/field_reader.h"
 #include "runtime/number_text.h"
 
 namespace ostraline {
@@ -54,13 +54,13 @@ AgeCells AgeOfEfd(BoreHoleSet& set, const Variant& efdCell) {
   return cells;
 }
 
-void ErrorTitles(FieldWriter& row) {
+void ErrorTitles(ConvertedRowWriter& row) {
   row.Text("Age " + ErrorLevelPlus + " error (+)");
   row.Text("Age " + ErrorLevelMinus + " error (-)");
   row.Text("Age unit");
 }
 
-void ErrorCells(FieldWriter& row, const AgeCells& cells) {
+void ErrorCells(ConvertedRowWriter& row, const AgeCells& cells) {
   row.Number(cells.plus);
   row.Number(cells.minus);
   if (cells.missing != nullptr) {
@@ -70,7 +70,7 @@ void ErrorCells(FieldWriter& row, const AgeCells& cells) {
   }
 }
 
-void AgeColumns(BoreHoleSet& set, FieldWriter& row, bool header, const ColumnTitles& titles,
+void AgeColumns(BoreHoleSet& set, ConvertedRowWriter& row, bool header, const ColumnTitles& titles,
                 const Variant& efd) {
   if (header) {
     row.Text(titles.age);
@@ -84,7 +84,7 @@ void AgeColumns(BoreHoleSet& set, FieldWriter& row, bool header, const ColumnTit
 
 // The Duo writes beside each of its composite depths the master's, under
 // the master's name; a missing depth maps to 9999.
-void MasterColumn(const BoreHoleSet& set, FieldWriter& row, bool header, const Variant& duoCd) {
+void MasterColumn(const BoreHoleSet& set, ConvertedRowWriter& row, bool header, const Variant& duoCd) {
   if (!set.IsDuo) return;
   if (header) {
     row.Text("Composite depth (" + frm2Main->Label1(0).Caption.Get() + ")");
@@ -95,7 +95,7 @@ void MasterColumn(const BoreHoleSet& set, FieldWriter& row, bool header, const V
 
 // A value that is a depth: label, value, the other depth when both are
 // ticked, then the age of the row's EFD.
-void DepthValueRow(BoreHoleSet& set, FieldWriter& row, long r, const ColumnTitles& titles) {
+void DepthValueRow(BoreHoleSet& set, ConvertedRowWriter& row, long r, const ColumnTitles& titles) {
   const bool header = r == 0;
   row.Value(ValueTable(1, r));
   row.Value(ValueTable(2, r));
@@ -112,7 +112,7 @@ void DepthValueRow(BoreHoleSet& set, FieldWriter& row, long r, const ColumnTitle
 
 // A value that is an age: the age as given and its errors first, then the
 // depths, composite before EFD.
-void AgeValueRow(BoreHoleSet& set, FieldWriter& row, long r, const ColumnTitles& titles) {
+void AgeValueRow(BoreHoleSet& set, ConvertedRowWriter& row, long r, const ColumnTitles& titles) {
   const bool header = r == 0;
   row.Value(ValueTable(1, r));
   row.Value(ValueTable(2, r));
@@ -134,7 +134,7 @@ void AgeValueRow(BoreHoleSet& set, FieldWriter& row, long r, const ColumnTitles&
 }
 
 // A position: the file's four columns, then composite depth, EFD and age.
-void PositionRow(BoreHoleSet& set, FieldWriter& row, long r, const ColumnTitles& titles) {
+void PositionRow(BoreHoleSet& set, ConvertedRowWriter& row, long r, const ColumnTitles& titles) {
   const bool header = r == 0;
   const auto& converted = std::as_const(ConversionTable);
   for (int column = 0; column <= 3; ++column) row.Value(converted(column, r));
@@ -158,19 +158,13 @@ void WriteConvertedRows(BoreHoleSet& set, MainForm& form, const ColumnTitles& ti
   const long rows = static_cast<long>(positions ? ConversionRows : ValueRows);
   auto writeRow = positions ? PositionRow : FromKind == kScaleAge ? AgeValueRow : DepthValueRow;
   form.ProgressBar1.Max = static_cast<float>(rows);
-  // Rows go to the file some thousand at a time.
-  constexpr std::size_t kWriteFrom = 1 << 16;
-  FieldWriter written;
+  ConvertedRowWriter written(out, FastLookups);
   for (long r = 0; r <= rows; ++r) {
     form.ProgressBar1.Value = static_cast<float>(r);
     writeRow(set, written, r, titles);
     written.EndRow();
-    if (written.Content().size() >= kWriteFrom) {
-      out.Write(written.Content());
-      written.Clear();
-    }
   }
-  out.Write(written.Content());
+  written.Finish();
 }
 
 }  // namespace ostraline

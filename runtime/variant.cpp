@@ -29,14 +29,6 @@ std::string_view Variant::Text() const {
   return {block + sizeof size, size};
 }
 
-Variant::Variant(const Variant& other) {
-  if (other.kind_ == Kind::LongText) {
-    SetText(other.Text());
-  } else {
-    TakeBytes(other);
-  }
-}
-
 Variant& Variant::operator=(const Variant& other) {
   // The copy is made before the old value goes, so a failed one leaves it.
   if (this != &other) *this = Variant(other);

@@ -25,7 +25,13 @@ class Variant {
   explicit Variant(std::string_view value) { SetText(value); }
   Variant(const char* value) { SetText(value); }
 
-  Variant(const Variant& other);
+  Variant(const Variant& other) {
+    if (other.kind_ == Kind::LongText) {
+      SetText(other.Text());
+    } else {
+      TakeBytes(other);
+    }
+  }
   // A text moved from is left as empty text, a number as it was.
   Variant(Variant&& other) noexcept {
     TakeBytes(other);

@@ -1,3 +1,6 @@
+#include <sys/resource.h>
+
+#include <csignal>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -290,6 +293,59 @@ TEST_F(BatchConversion, FailedOrCancelledSaveKeepsTheFileThatWasThere) {
   EXPECT_FALSE(frmConversion.IsLoaded());
   EXPECT_EQ(FileContents(output), "old rows\r\n");
   EXPECT_EQ(filesInFolder(), before);
+}
+
+// A file of many rows is written by a second thread while the rows are
+// converted: the same file as when each row is written as it is made, and a
+// failure on either side, late in the file, keeps the file that was there.
+TEST_F(BatchConversion, ManyRowsAreWrittenAsTheyAreMade) {
+  ImportAll();
+  constexpr int kCopies = 3000;
+  std::string data = kPositions;
+  std::string expected = Written(kPositionsConverted, kEveryScale);
+  const std::string rows = data.substr(data.find("\r\n") + 2);
+  const std::string convertedRows = expected.substr(expected.find("\r\n") + 2);
+  for (int i = 1; i < kCopies; ++i) {
+    data += rows;
+    expected += convertedRows;
+  }
+  for (const bool alongside : {false, true}) {
+    FastLookups = alongside;
+    EXPECT_TRUE(Convert(data) == expected) << "written alongside: " << alongside;
+  }
+  EXPECT_TRUE(platform.messages.empty()) << OnlyMessage();
+
+  const auto expectFailureKeepsFile = [&](const std::string& what) {
+    EXPECT_EQ(OnlyMessage(),
+              "Error: The file might be being used by another software. Please close the file "
+              "and try again.")
+        << what;
+    EXPECT_EQ(FileContents(output), "old rows\r\n") << what;
+    platform.messages.clear();
+  };
+  // The first sample below the second control point has an age that is no
+  // number: only the last row fails.
+  std::string lateFailure = "Sample,Hole,Section,PSP\r\n";
+  for (int i = 0; i < kCopies; ++i) lateFailure += "S1,A,01,30\r\n";
+  ReadDataFile(lateFailure + "S3,A,02,30\r\n");
+  AgeModel(7, 3) = "n/a";
+  output = WriteTempFile("converted.csv", "old rows\r\n");
+  platform.QueueFile(output);
+  frmConversion->Command1_Click();
+  expectFailureKeepsFile("a failed age");
+
+  // A file that may not grow beyond 64 kB fails while it is written.
+  AgeModel(7, 3) = "3000";
+  struct rlimit limit {};
+  getrlimit(RLIMIT_FSIZE, &limit);
+  const struct rlimit small = {1 << 16, limit.rlim_max};
+  const auto previous = std::signal(SIGXFSZ, SIG_IGN);
+  setrlimit(RLIMIT_FSIZE, &small);
+  platform.QueueFile(output);
+  frmConversion->Command1_Click();
+  setrlimit(RLIMIT_FSIZE, &limit);
+  std::signal(SIGXFSZ, previous);
+  expectFailureKeepsFile("a file that cannot grow");
 }
 
 }  // namespace
