@@ -88,6 +88,14 @@ void ReplacementFile::Write(std::string_view text) {
   if (std::fwrite(text.data(), 1, text.size(), file_) != text.size()) {
     FailWith("cannot write " + target_);
   }
+  // The disk takes what is written from the start, so that putting the file
+  // in its place need not wait for all of it at the end.
+  constexpr std::size_t kStartWritingEvery = 8 << 20;
+  unsynced_ += text.size();
+  if (unsynced_ >= kStartWritingEvery) {
+    sync_file_range(fileno(file_), 0, 0, SYNC_FILE_RANGE_WRITE);
+    unsynced_ = 0;
+  }
 }
 
 void ReplacementFile::Commit() {

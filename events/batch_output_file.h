@@ -29,6 +29,8 @@ class ReplacementFile {
   std::string target_;
   std::string temporary_;
   std::FILE* file_ = nullptr;
+  // Bytes written since the disk was last asked to take them.
+  std::size_t unsynced_ = 0;
 };
 
 }  // namespace ostraline
