@@ -1,7 +1,10 @@
 // "Convert from data file": the table of samples is read, its shape told from
 // its first rows, and frmConversion opened on it.
 #include <array>
+#include <limits>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "core/import_pattern.h"
 #include "core/project_state.h"
@@ -15,6 +18,7 @@
 #include "forms/platform.h"
 #include "runtime/failure.h"
 #include "runtime/field_reader.h"
+#include "runtime/later_rows_reader.h"
 #include "runtime/number_text.h"
 
 namespace ostraline {
@@ -30,14 +34,38 @@ constexpr const char* kSamplesAddress = "https://www.ostraline.org/samples";
 // written back bare.
 using FirstRecords = std::array<std::string, 8>;
 
+// The rows read ahead, four cells to a row, after the last row read. The
+// table grows by a block as each block read ahead goes, so that the two are
+// not held whole at once.
+long TakeLaterRows(LaterRowsReader& later, long row) {
+  for (auto& block : later.Blocks()) {
+    ConversionTable.ReDimPreserve(row + static_cast<long>(block.size() / 4));
+    for (std::size_t cell = 0; cell < block.size(); cell += 4) {
+      ++row;
+      for (int column = 0; column <= 3; ++column) {
+        ConversionTable(column, row) = std::move(block[cell + static_cast<std::size_t>(column)]);
+      }
+    }
+    LaterRowsReader::Block().swap(block);
+  }
+  return row;
+}
 
 void ReadPositionFile(BoreHoleSet& set, MainForm& form, FieldReader& file,
                       const FirstRecords& first) {
   Screen.SetMousePointer(11);
   ConversionTable.Dim({{0, 5}, {0, 1}});
   for (int i = 0; i < 8; ++i) ConversionTable(i % 4, i / 4) = first[i];
+  // A second thread reads the later half of a long file meanwhile.
+  constexpr std::size_t kReadAheadFrom = 1 << 20;
+  LaterRowsReader later(form.CommonDialog1.FileName, 4,
+                        FastLookups ? kReadAheadFrom : std::numeric_limits<std::size_t>::max());
   long row = 1;
   while (!file.Eof()) {
+    if (later.ContinuesAt(file.Offset())) {
+      row = TakeLaterRows(later, row);
+      break;
+    }
     ++row;
     ConversionTable.ReDimPreserve(row);
     for (int column = 0; column <= 3; ++column) {

@@ -9,10 +9,14 @@
 
 namespace ostraline {
 
-FieldReader FieldReader::Open(const std::string& path, std::size_t chunk) {
+FieldReader FieldReader::Open(const std::string& path, std::size_t chunk, std::size_t from) {
   auto in = std::make_shared<std::ifstream>(path, std::ios::binary);
   if (!*in) Fail(FailureKind::FileNotFound, path);
+  if (from > 0 && !in->seekg(static_cast<std::streamoff>(from))) {
+    Fail(FailureKind::FileNotFound, path);
+  }
   FieldReader reader{std::string()};
+  reader.dropped_ = from;
   reader.file_ = std::move(in);
   reader.chunk_ = std::max<std::size_t>(chunk, 1);
   return reader;
@@ -32,6 +36,7 @@ bool FieldReader::ReadOn(std::size_t i) {
 void FieldReader::DropRead() {
   if (!file_ || pos_ < chunk_) return;
   content_.erase(0, pos_);
+  dropped_ += pos_;
   pos_ = 0;
 }
 

@@ -16,8 +16,9 @@ class FieldReader {
   explicit FieldReader(std::string content) : content_(std::move(content)) {}
   // Fails with FileNotFound when the file cannot be opened for input. The
   // file is read a chunk at a time, so that a file of millions of rows
-  // never lies in memory whole.
-  static FieldReader Open(const std::string& path, std::size_t chunk = 1 << 20);
+  // never lies in memory whole. Reading begins `from` bytes into the file.
+  static FieldReader Open(const std::string& path, std::size_t chunk = 1 << 20,
+                          std::size_t from = 0);
 
   std::string ReadText();
   // The same field's text where it lies in the reader, good until the next read.
@@ -27,6 +28,9 @@ class FieldReader {
 
   // True only when nothing at all is left: the test between rows.
   bool Eof() { return !Has(pos_); }
+  // How many bytes into the file the next field's text, or the blanks
+  // before it, begin.
+  std::size_t Offset() const { return dropped_ + pos_; }
 
   // Where the reader stands, for messages beyond the program's own texts.
   long Line() const { return next_.line; }
@@ -54,6 +58,8 @@ class FieldReader {
 
   std::string content_;
   std::size_t pos_ = 0;
+  // The bytes of the file before content_.
+  std::size_t dropped_ = 0;
   // The file behind content_ while it is read a chunk at a time.
   std::shared_ptr<std::istream> file_;
   std::size_t chunk_ = 0;

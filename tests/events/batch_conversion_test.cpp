@@ -348,5 +348,42 @@ TEST_F(BatchConversion, ManyRowsAreWrittenAsTheyAreMade) {
   expectFailureKeepsFile("a file that cannot grow");
 }
 
+// A long file's later half is read by a second thread from its first line
+// on, and used only where the rows read before it end exactly there: a
+// quoted text or a row of five fields across the middle, or a failure at the
+// end, give what the file gives read from its start alone.
+TEST_F(BatchConversion, LongFilesReadInTwoHalvesAsInOne) {
+  ImportAll();
+  const std::string header = "Sample,Hole,Section,PSP\r\n";
+  const std::string row = "S1,A,01,30\r\n";
+  const std::size_t rows = (1 << 20) / row.size() + 1;
+  std::string plain = header;
+  for (std::size_t i = 0; i < rows; ++i) plain += row;
+  const std::size_t middle = plain.size() / 2;
+  const std::size_t middleRow = header.size() + (middle - header.size()) / row.size() * row.size();
+  std::string quoted = plain;
+  // The quoted text's line end comes after the middle of the longer file.
+  quoted.replace(middleRow, 2, "\"S1" + std::string(4 * row.size(), 'q') + "\n\"");
+  std::string fiveFields = plain;
+  fiveFields.replace(middleRow, row.size(), "S1,A,01,30,S2\r\n");
+  for (const auto& [what, data] : {std::pair{"plain rows", plain},
+                                   {"a quoted text across the middle", quoted},
+                                   {"five fields in the middle", fiveFields},
+                                   {"a blank line at the end", plain + "\r\n"}}) {
+    std::string converted[2];
+    std::vector<std::string> messages[2];
+    for (const bool fast : {false, true}) {
+      FastLookups = fast;
+      platform.messages.clear();
+      converted[fast] = Convert(data);
+      converted[fast] += " rows " + std::to_string(ConversionRows);
+      for (const auto& message : platform.messages) messages[fast].push_back(message.text);
+    }
+    EXPECT_TRUE(converted[true] == converted[false]) << what;
+    EXPECT_EQ(messages[true], messages[false]) << what;
+    EXPECT_EQ(converted[false].size() > data.size(), messages[false].empty()) << what;
+  }
+}
+
 }  // namespace
 }  // namespace ostraline
