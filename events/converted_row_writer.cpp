@@ -16,23 +16,12 @@ constexpr std::size_t kBatchesWaiting = 2;
 
 }  // namespace
 
-ConvertedRowWriter::ConvertedRowWriter(ReplacementFile& out, bool inBackground)
-    : out_(out), inBackground_(inBackground) {
-  if (inBackground_) writer_ = std::thread([this] { WriteInBackground(); });
-}
-
-ConvertedRowWriter::~ConvertedRowWriter() {
-  if (!writer_.joinable()) return;
-  {
-    const std::lock_guard<std::mutex> hold(lock_);
-    stopped_ = true;
-  }
-  changed_.notify_all();
-  writer_.join();
+ConvertedRowWriter::ConvertedRowWriter(ReplacementFile& out, bool inBackground) : out_(out) {
+  if (inBackground) writer_.emplace([this](Rows& rows) { Write(rows); }, kBatchesWaiting);
 }
 
 void ConvertedRowWriter::Value(const Variant& value) {
-  if (inBackground_) {
+  if (writer_) {
     gathered_.cells.push_back(value);
   } else {
     text_.Value(value);
@@ -40,8 +29,8 @@ void ConvertedRowWriter::Value(const Variant& value) {
 }
 
 void ConvertedRowWriter::EndRow() {
-  if (!inBackground_) {
-    EndRowIn(text_);
+  if (!writer_) {
+    EndRowInText();
     return;
   }
   gathered_.rowEnds.push_back(static_cast<std::uint32_t>(gathered_.cells.size()));
@@ -49,91 +38,38 @@ void ConvertedRowWriter::EndRow() {
 }
 
 void ConvertedRowWriter::Finish() {
-  if (!inBackground_) {
-    out_.Write(text_.Content());
-    text_.Clear();
-    return;
+  if (writer_) {
+    Send();
+    writer_->Finish();
   }
-  Send();
-  {
-    const std::lock_guard<std::mutex> hold(lock_);
-    finished_ = true;
-  }
-  changed_.notify_all();
-  writer_.join();
-  RethrowFailure();
+  out_.Write(text_.Content());
+  text_.Clear();
 }
 
 void ConvertedRowWriter::Send() {
-  std::unique_lock<std::mutex> hold(lock_);
-  changed_.wait(hold, [this] { return failure_ || queued_.size() < kBatchesWaiting; });
-  if (failure_) {
-    hold.unlock();
-    RethrowFailure();
+  Rows next;
+  // A batch written lends its room to the next.
+  if (writer_->TakeDone(next)) {
+    next.cells.clear();
+    next.rowEnds.clear();
   }
-  queued_.push_back(std::move(gathered_));
-  if (spare_.empty()) {
-    gathered_ = Rows{};
-  } else {
-    gathered_ = std::move(spare_.back());
-    spare_.pop_back();
-  }
-  hold.unlock();
-  changed_.notify_all();
+  writer_->Give(std::exchange(gathered_, std::move(next)));
 }
 
-void ConvertedRowWriter::WriteInBackground() {
-  FieldWriter text;
-  std::unique_lock<std::mutex> hold(lock_);
-  while (true) {
-    changed_.wait(hold, [this] { return stopped_ || finished_ || !queued_.empty(); });
-    if (stopped_) return;
-    if (queued_.empty()) break;
-    Rows rows = std::move(queued_.front());
-    queued_.pop_front();
-    hold.unlock();
-    changed_.notify_all();
-    try {
-      Write(rows, text);
-    } catch (...) {
-      hold.lock();
-      failure_ = std::current_exception();
-      changed_.notify_all();
-      return;
-    }
-    rows.cells.clear();
-    rows.rowEnds.clear();
-    hold.lock();
-    spare_.push_back(std::move(rows));
-  }
-  hold.unlock();
-  try {
-    out_.Write(text.Content());
-  } catch (...) {
-    hold.lock();
-    failure_ = std::current_exception();
-  }
-}
-
-void ConvertedRowWriter::Write(const Rows& rows, FieldWriter& text) {
+void ConvertedRowWriter::Write(const Rows& rows) {
   std::size_t cell = 0;
   for (const std::uint32_t end : rows.rowEnds) {
-    for (; cell < end; ++cell) text.Value(rows.cells[cell]);
-    EndRowIn(text);
+    for (; cell < end; ++cell) text_.Value(rows.cells[cell]);
+    EndRowInText();
   }
 }
 
-void ConvertedRowWriter::EndRowIn(FieldWriter& text) {
-  text.EndRow();
-  if (text.Content().size() >= kWriteFrom) {
-    out_.Write(text.Content());
-    text.Clear();
+void ConvertedRowWriter::EndRowInText() {
+  text_.EndRow();
+  if (text_.Content().size() >= kWriteFrom) {
+    out_.Write(text_.Content());
+    text_.Clear();
   }
-}
-
-void ConvertedRowWriter::RethrowFailure() {
-  const std::lock_guard<std::mutex> hold(lock_);
-  if (failure_) std::rethrow_exception(failure_);
 }
 
 }  // namespace ostraline

@@ -4,17 +4,14 @@
 // the next rows are converted: a row's cells wait as variants meanwhile, so
 // that the text is the same as if it had been made at once. Off, the rows
 // are made and written by the converting thread as they come.
-#include <condition_variable>
 #include <cstdint>
-#include <deque>
-#include <exception>
-#include <mutex>
+#include <optional>
 #include <string_view>
-#include <thread>
 #include <vector>
 
 #include "runtime/field_reader.h"
 #include "runtime/variant.h"
+#include "runtime/work_behind.h"
 
 namespace ostraline {
 
@@ -23,10 +20,6 @@ class ReplacementFile;
 class ConvertedRowWriter {
  public:
   ConvertedRowWriter(ReplacementFile& out, bool inBackground);
-  ConvertedRowWriter(const ConvertedRowWriter&) = delete;
-  ConvertedRowWriter& operator=(const ConvertedRowWriter&) = delete;
-  // Rows not yet written are dropped: the conversion failed.
-  ~ConvertedRowWriter();
 
   // The fields of a row as FieldWriter writes them.
   void Text(std::string_view text) { Value(Variant(text)); }
@@ -35,7 +28,8 @@ class ConvertedRowWriter {
   void Value(const Variant& value);
   // A failure of the writing thread is thrown at the end of a row.
   void EndRow();
-  // Every row is in the file when this returns.
+  // Every row is in the file when this returns; without it, the rows not
+  // yet written are dropped.
   void Finish();
 
  private:
@@ -46,29 +40,17 @@ class ConvertedRowWriter {
   };
 
   void Send();
-  void WriteInBackground();
-  void Write(const Rows& rows, FieldWriter& text);
+  void Write(const Rows& rows);
   // Ends the row in the text, which goes to the file once it is long enough.
-  void EndRowIn(FieldWriter& text);
-  void RethrowFailure();
+  void EndRowInText();
 
   ReplacementFile& out_;
-  const bool inBackground_;
-  // The rows made text when the converting thread writes them; the writing
-  // thread has its own, away from what the converting thread writes.
-  FieldWriter text_;
   // The rows gathered by the converting thread, to be sent.
   Rows gathered_;
-
-  std::mutex lock_;
-  std::condition_variable changed_;
-  std::deque<Rows> queued_;
-  // Batches written, kept for their room.
-  std::vector<Rows> spare_;
-  bool finished_ = false;
-  bool stopped_ = false;
-  std::exception_ptr failure_;
-  std::thread writer_;
+  // The rows made text, by the thread that writes them: a cache line of its
+  // own keeps the two threads from slowing each other.
+  alignas(64) FieldWriter text_;
+  alignas(64) std::optional<WorkBehind<Rows>> writer_;
 };
 
 }  // namespace ostraline
