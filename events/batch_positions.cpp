@@ -18,8 +18,10 @@
 #include "events/event_free_depth.h"
 #include "events/event_state.h"
 #include "forms/frm_main.h"
+#include "runtime/failure.h"
 #include "runtime/general_format.h"
 #include "runtime/number_text.h"
+#include "runtime/work_behind.h"
 
 namespace ostraline {
 namespace {
@@ -98,6 +100,32 @@ class SectionOrdinals {
   std::array<std::vector<int>, 9> byNumber_;
 };
 
+// The hole of each name met in a batch; the names of the holes stand still
+// meanwhile. The few names of a file are kept, in the order first met.
+class HoleNumbers {
+ public:
+  HoleNumbers(const BoreHoleSet& set, const BoreHoleSet& other) : set_(set), other_(other) {}
+
+  int Of(const Variant& cell) {
+    const std::string_view text = cell.TextView();
+    if (cell.IsText()) {
+      for (const auto& [name, hole] : known_) {
+        if (name == text) return hole;
+      }
+    }
+    std::string name = cell.ToText();
+    const int hole = HoleNumber(set_, other_, name);
+    if (cell.IsText() && known_.size() < kKept) known_.emplace_back(std::move(name), hole);
+    return hole;
+  }
+
+ private:
+  static constexpr std::size_t kKept = 16;
+  const BoreHoleSet& set_;
+  const BoreHoleSet& other_;
+  std::vector<std::pair<std::string, int>> known_;
+};
+
 // A hole of the other set is placed on its scale and mapped to this one's.
 Variant CompositeOfPosition(BoreHoleSet& set, int hole, int section, double psp) {
   if (hole < 5 || hole > 8) return CompositeInSection(set, hole, section, psp);
@@ -106,6 +134,76 @@ Variant CompositeOfPosition(BoreHoleSet& set, int hole, int section, double psp)
   if (depth.ToDouble() == 9999) return depth;
   return set.IsDuo ? MasterToDuo(depth.ToSingle()) : DuoToMaster(depth.ToSingle());
 }
+
+// The EFDs of rows whose composite depth is a plain number are made by a
+// second thread some rows behind. Any other row's depth is read in turn, and
+// its EFD made once those of the rows before it are in the table, so that a
+// failure happens where it would have.
+class EfdsBehind {
+ public:
+  explicit EfdsBehind(BoreHoleSet& set)
+      : work_([&set](Efds& efds) { MakeEfds(set, efds); }, kBatchesWaiting) {}
+
+  // False for a row whose EFD is not taken: it may fail, or be no number.
+  bool Takes(long row, const Variant& cd) {
+    if (!cd.IsSingle() && !cd.IsDouble()) return false;
+    const double depth = cd.ToDouble();
+    // Within these bounds it is a Single once read back.
+    if (!(std::abs(depth) < 1e38)) return false;
+    gathered_.rows.push_back(row);
+    if (gathered_.rows.size() >= kRowsSent) Send();
+    return true;
+  }
+
+  // Every EFD taken so far is in the table.
+  void CatchUp() {
+    Send();
+    work_.Wait();
+    PutDone();
+  }
+
+ private:
+  static constexpr std::size_t kRowsSent = 8192;
+  static constexpr std::size_t kBatchesWaiting = 2;
+
+  struct Efds {
+    std::vector<long> rows;
+    std::vector<Variant> efds;
+  };
+
+  static void MakeEfds(BoreHoleSet& set, Efds& efds) {
+    const auto& given = std::as_const(ConversionTable);
+    efds.efds.clear();
+    for (const long row : efds.rows) {
+      const Variant& cd = given(4, row);
+      const std::optional<Single> value = SingleOfCell(cd);
+      efds.efds.push_back(value ? CDToEFD(set, *value) : cd);
+    }
+  }
+
+  void Send() {
+    if (gathered_.rows.empty()) return;
+    Efds next;
+    PutDone(&next);
+    work_.Give(std::exchange(gathered_, std::move(next)));
+  }
+
+  // The EFDs made so far into the table; the room of the last batch is lent
+  // to the next.
+  void PutDone(Efds* room = nullptr) {
+    Efds done;
+    while (work_.TakeDone(done)) {
+      for (std::size_t i = 0; i < done.rows.size(); ++i) {
+        ConversionTable(5, done.rows[i]) = std::move(done.efds[i]);
+      }
+      done.rows.clear();
+      if (room != nullptr) *room = std::move(done);
+    }
+  }
+
+  WorkBehind<Efds> work_;
+  Efds gathered_;
+};
 
 bool IsNoValue(const Variant& cell) {
   if (cell.IsEmpty()) return false;
@@ -144,33 +242,41 @@ void ConvertPositionRows(BoreHoleSet& set, MainForm& form) {
   form.ProgressBar1.Visible = true;
   // Reads leave the table's revision as it is.
   const auto& given = std::as_const(ConversionTable);
-  // The names of the holes stand still meanwhile: a row with the name of
-  // the row before has its hole.
-  std::string holeName;
-  int hole = HoleNumber(set, other, holeName);
+  HoleNumbers holes(set, other);
   SectionOrdinals sections(set, other);
+  constexpr long kEfdsBehindFrom = 4096;
+  std::optional<EfdsBehind> behind;
+  if (FastLookups && set.EventListLoaded && ConversionRows >= kEfdsBehindFrom &&
+      CDToEFDOnlyReads(set)) {
+    behind.emplace(set);
+  }
   for (long row = 1; row <= ConversionRows; ++row) {
-    form.ProgressBar1.Value = static_cast<float>(row);
-    const Variant& psp = given(3, row);
-    if (const std::optional<double> value = ValueOfCell(psp)) {
-      if (const Variant& name = given(1, row); !name.IsText() || name.TextView() != holeName) {
-        holeName = name.ToText();
-        hole = HoleNumber(set, other, holeName);
+    try {
+      form.ProgressBar1.Value = static_cast<float>(row);
+      const Variant& psp = given(3, row);
+      if (const std::optional<double> value = ValueOfCell(psp)) {
+        const int hole = holes.Of(given(1, row));
+        ConversionTable(4, row) =
+            CompositeOfPosition(set, hole, sections.Of(hole, given(2, row)), *value);
+      } else {
+        ConversionTable(4, row) = psp;
       }
-      ConversionTable(4, row) =
-          CompositeOfPosition(set, hole, sections.Of(hole, given(2, row)), *value);
-    } else {
-      ConversionTable(4, row) = psp;
-    }
-    if (set.EventListLoaded) {
+      if (!set.EventListLoaded) continue;
       const Variant& cd = given(4, row);
+      if (behind && behind->Takes(row, cd)) continue;
       if (const std::optional<Single> value = SingleOfCell(cd)) {
+        if (behind) behind->CatchUp();
         ConversionTable(5, row) = CDToEFD(set, *value);
       } else {
         ConversionTable(5, row) = cd;
       }
+    } catch (const RuntimeFailure&) {
+      // The rows before this one have their EFDs, as they would have had.
+      if (behind) behind->CatchUp();
+      throw;
     }
   }
+  if (behind) behind->CatchUp();
 }
 
 }  // namespace ostraline

@@ -149,6 +149,20 @@ Variant CDToEFD(BoreHoleSet& set, Single cd) {
   }
 }
 
+bool CDToEFDOnlyReads(BoreHoleSet& set) {
+  if (set.IsDuo || DepthPrecision < 0 || DepthPrecision > 22) return false;
+  if (set.EventCount == 0) return true;
+  try {
+    const LayerSums* sums = Sums(set);
+    // The sentinel row is there to be written.
+    return sums != nullptr && sums->bottomsRise && set.EventTop.LBound(2) <= 0 &&
+           set.EventBottom.LBound(2) <= 0;
+  } catch (const RuntimeFailure&) {
+    // Layers that cannot be summed fail where CDToEFD meets them.
+    return false;
+  }
+}
+
 Variant EFDToCD(BoreHoleSet& set, Single efd) {
   if (set.EventCount == 0) return Round(efd, DepthPrecision);
   // This direction measures the first stretch of sediment from depth 0.

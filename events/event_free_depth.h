@@ -19,6 +19,12 @@ inline Variant EFDToCD(Single efd) {
   return EFDToCD(masterSet, efd);
 }
 
+// Whether CDToEFD of this set, whatever the depth, cannot fail and writes
+// nothing but the sentinel row of the layers: it then reads only sums made
+// once, made here if need be, and may run beside code that leaves the
+// layers alone.
+bool CDToEFDOnlyReads(BoreHoleSet& set);
+
 // Whether EFDToCD never falls as the EFD rises, away from the two sentinels:
 // no layer it counts ends above its top.
 bool CompositeRisesWithEFD(const BoreHoleSet& set);

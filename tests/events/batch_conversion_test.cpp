@@ -385,5 +385,37 @@ TEST_F(BatchConversion, LongFilesReadInTwoHalvesAsInOne) {
   }
 }
 
+// The EFDs of a long file are made some rows behind its composite depths: a
+// depth that fails, or an EFD that does, late in the file leaves the table
+// as converting each row in turn does.
+TEST_F(BatchConversion, LateFailureLeavesTheTableAsRowByRow) {
+  ImportAll();
+  std::string data = "Sample,Hole,Section,PSP\r\n";
+  for (int i = 0; i < 9000; ++i) data += "S1,A,01,30\r\nS4,A,01,85\r\n";
+  data += "S3,A,02,30\r\n";
+  const auto readTable = [&](bool fast) {
+    FastLookups = fast;
+    platform.messages.clear();
+    ReadDataFile(data);
+    std::string table = OnlyMessage() + " rows " + std::to_string(ConversionRows) + "\n";
+    for (long row = 0; row <= ConversionTable.UBound(2); ++row) {
+      for (int column = 0; column <= 5; ++column) {
+        const Variant& cell = std::as_const(ConversionTable)(column, row);
+        table += cell.IsEmpty() ? "-" : cell.ToText();
+        table += ",";
+      }
+    }
+    return table;
+  };
+  // The last sample's composite depth lies beyond a Single: its EFD fails.
+  const std::string plain = readTable(false);
+  EXPECT_TRUE(platform.messages.empty()) << OnlyMessage();
+  EXPECT_TRUE(readTable(true) == plain);
+  TieCell(1, 7) = "1e40";
+  const std::string failed = readTable(false);
+  EXPECT_EQ(failed.rfind("Error: File format error.", 0), 0u) << failed.substr(0, 80);
+  EXPECT_TRUE(readTable(true) == failed);
+}
+
 }  // namespace
 }  // namespace ostraline
