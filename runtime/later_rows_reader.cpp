@@ -42,12 +42,13 @@ LaterRowsReader::LaterRowsReader(const std::string& path, int fields, std::size_
   const std::size_t start = LaterHalfStart(path, least);
   if (start == std::string::npos) return;
   start_ = start;
-  reader_ = std::thread([this, path, fields] { Read(path, fields); });
+  reader_ = std::thread([this, path, start, fields] { Read(path, start, fields); });
 }
 
-void LaterRowsReader::Read(const std::string& path, int fields) {
+void LaterRowsReader::Read(const std::string& path, std::size_t start, int fields) {
   try {
-    FieldReader file = FieldReader::Open(path, 1 << 16, start_);
+    // Small chunks: what this thread frees, the heap keeps for it alone.
+    FieldReader file = FieldReader::Open(path, 1 << 16, start);
     const std::size_t cells = kRowsInBlock * static_cast<std::size_t>(fields);
     Block block;
     block.reserve(cells);

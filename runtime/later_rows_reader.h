@@ -54,7 +54,7 @@ class LaterRowsReader {
   static constexpr std::size_t kNowhere = std::numeric_limits<std::size_t>::max();
 
   bool TakeOver(std::size_t offset);
-  void Read(const std::string& path, int fields);
+  void Read(const std::string& path, std::size_t start, int fields);
   void Drop();
 
   std::size_t start_ = kNowhere;
