@@ -246,7 +246,9 @@ void ConvertPositionRows(BoreHoleSet& set, MainForm& form) {
   SectionOrdinals sections(set, other);
   constexpr long kEfdsBehindFrom = 4096;
   std::optional<EfdsBehind> behind;
-  if (FastLookups && set.EventListLoaded && ConversionRows >= kEfdsBehindFrom &&
+  // With the Duo open, a hole of the other set is mapped through both sets'
+  // EFDs on this thread.
+  if (FastLookups && !DuoOpen && set.EventListLoaded && ConversionRows >= kEfdsBehindFrom &&
       CDToEFDOnlyReads(set)) {
     behind.emplace(set);
   }
