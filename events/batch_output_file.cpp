@@ -90,7 +90,7 @@ void ReplacementFile::Write(std::string_view text) {
   }
   // The disk takes what is written from the start, so that putting the file
   // in its place need not wait for all of it at the end.
-  constexpr std::size_t kStartWritingEvery = 8 << 20;
+  constexpr std::size_t kStartWritingEvery = 1 << 20;
   unsynced_ += text.size();
   if (unsynced_ >= kStartWritingEvery) {
     sync_file_range(fileno(file_), 0, 0, SYNC_FILE_RANGE_WRITE);
