@@ -4,6 +4,7 @@
 
 #include <fstream>
 #include <new>
+#include <system_error>
 
 #include "runtime/field_reader.h"
 
@@ -41,8 +42,12 @@ void UnmapBytes(void* p, std::size_t bytes) noexcept {
 LaterRowsReader::LaterRowsReader(const std::string& path, int fields, std::size_t least) {
   const std::size_t start = LaterHalfStart(path, least);
   if (start == std::string::npos) return;
-  start_ = start;
-  reader_ = std::thread([this, path, start, fields] { Read(path, start, fields); });
+  try {
+    reader_ = std::thread([this, path, start, fields] { Read(path, start, fields); });
+    start_ = start;
+  } catch (const std::system_error&) {
+    // Without a second thread the file is read from its start alone.
+  }
 }
 
 void LaterRowsReader::Read(const std::string& path, std::size_t start, int fields) {

@@ -8,6 +8,7 @@
 #include <exception>
 #include <functional>
 #include <mutex>
+#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -16,8 +17,15 @@ namespace ostraline {
 template <class Batch>
 class WorkBehind {
  public:
+  // Where no second thread can be had, each batch is done when given.
   WorkBehind(std::function<void(Batch&)> work, std::size_t waiting)
-      : work_(std::move(work)), waiting_(waiting), thread_([this] { Run(); }) {}
+      : work_(std::move(work)), waiting_(waiting) {
+    try {
+      thread_ = std::thread([this] { Run(); });
+    } catch (const std::system_error&) {
+      atOnce_ = true;
+    }
+  }
   WorkBehind(const WorkBehind&) = delete;
   WorkBehind& operator=(const WorkBehind&) = delete;
   // Batches not yet done are dropped.
@@ -33,6 +41,11 @@ class WorkBehind {
 
   // Waits while as many batches as may wait are not yet begun.
   void Give(Batch batch) {
+    if (atOnce_) {
+      work_(batch);
+      done_.push_back(std::move(batch));
+      return;
+    }
     std::unique_lock<std::mutex> hold(lock_);
     changed_.wait(hold, [this] { return failure_ || pending_.size() < waiting_; });
     if (failure_) std::rethrow_exception(failure_);
@@ -52,6 +65,7 @@ class WorkBehind {
 
   // Waits until every batch given is done; they are left to be taken.
   void Wait() {
+    if (atOnce_) return;
     std::unique_lock<std::mutex> hold(lock_);
     changed_.wait(hold, [this] { return failure_ || (pending_.empty() && !busy_); });
     if (failure_) std::rethrow_exception(failure_);
@@ -60,6 +74,7 @@ class WorkBehind {
   // Waits until every batch given is done, and ends the second thread; the
   // batches done are left to be taken.
   void Finish() {
+    if (atOnce_) return;
     {
       const std::lock_guard<std::mutex> hold(lock_);
       finishing_ = true;
@@ -105,6 +120,7 @@ class WorkBehind {
   bool finishing_ = false;
   bool stopped_ = false;
   std::exception_ptr failure_;
+  bool atOnce_ = false;
   // Started last, when everything it uses is in place.
   std::thread thread_;
 };
