@@ -1,4 +1,5 @@
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "core/depth_conversions.h"
@@ -55,31 +56,30 @@ class DepthConversions : public FreshProgram {
 };
 
 TEST_F(DepthConversions, TwoTiesAgreeInsideAndDifferBeyondOneTieShiftsEqualPspsGiveNoValue) {
-  Method(0);
-  EXPECT_DOUBLE_EQ(Composite(1, 30), 135);
-  EXPECT_DOUBLE_EQ(Composite(1, 60), 172.5);
-  EXPECT_DOUBLE_EQ(Composite(1, 0), 97.5);
-  Method(1);
-  EXPECT_DOUBLE_EQ(Composite(1, 30), 135);
-  EXPECT_DOUBLE_EQ(Composite(1, 60), 170);
-  EXPECT_DOUBLE_EQ(Composite(1, 0), 100);
+  // Inside the ties both methods agree; beyond them, below and above, they part.
+  for (const auto& [method, below, above] : {std::tuple{0, 172.5, 97.5}, {1, 170.0, 100.0}}) {
+    Method(method);
+    EXPECT_DOUBLE_EQ(Composite(1, 30), 135);
+    EXPECT_DOUBLE_EQ(Composite(1, 60), below);
+    EXPECT_DOUBLE_EQ(Composite(1, 0), above);
+  }
   // Neither method chosen: no answer at all.
   frmMain->Option4(1).Value = false;
   EXPECT_TRUE(CompositeFromTrinity(1, 1, 30).IsEmpty());
 
-  // One tie shifts one to one; equal PSPs give no value.
+  // One tie shifts one to one.
   for (int method : {0, 1}) {
     Method(method);
     EXPECT_DOUBLE_EQ(Composite(2, 15), 215);
     EXPECT_DOUBLE_EQ(Composite(2, -5), 195);
   }
+  // Equal PSPs give no value; the sentinels and an unknown section or bore
+  // hole pass through as 9999.
   Method(0);
-  EXPECT_EQ(CompositeFromTrinity(1, 3, 20), Variant(9999));
-  // The sentinels and an unknown section pass through as 9999.
-  EXPECT_EQ(CompositeFromTrinity(1, 1, 9999), Variant(9999));
-  EXPECT_EQ(CompositeFromTrinity(1, 9999, 10), Variant(9999));
-  EXPECT_EQ(CompositeFromTrinity(1, 5, 10), Variant(9999));
-  EXPECT_EQ(CompositeFromTrinity(0, 1, 10), Variant(9999));
+  for (const auto& [hole, section, psp] :
+       {std::tuple{1, 3, 20.0f}, {1, 1, 9999.0f}, {1, 9999, 10.0f}, {1, 5, 10.0f}, {0, 1, 10.0f}}) {
+    EXPECT_EQ(CompositeFromTrinity(hole, section, psp), Variant(9999)) << hole << section << psp;
+  }
 }
 
 TEST_F(DepthConversions, ModelDepthsTakeTheTieOverTheComputedValue) {

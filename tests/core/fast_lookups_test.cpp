@@ -122,12 +122,9 @@ class FastLookups : public FreshProgram {
     const std::string plain = Sweep();
     ostraline::FastLookups = true;
     const std::string fast = Sweep();
-    std::istringstream a(fast);
-    std::istringstream b(plain);
-    std::string lineA;
-    std::string lineB;
+    std::istringstream a(fast), b(plain);
     long line = 0;
-    while (std::getline(b, lineB)) {
+    for (std::string lineA, lineB; std::getline(b, lineB);) {
       ++line;
       std::getline(a, lineA);
       if (lineA != lineB) {
@@ -185,8 +182,8 @@ TEST_F(FastLookups, PositionsBatchFindsTheSectionsTheScanFinds) {
   std::string data = "Sample,Hole,Section,PSP\r\n";
   int sample = 0;
   for (const char* hole : {"A", "B", "C", "D", "Bore hole A", "X"}) {
-    for (const char* section : {"1", "01", "001", "5", "05", "005", "7", "12", "999", "0",
-                                "1000", "abc", "", "3.0", "-2"}) {
+    for (const char* section : {"1", "01", "001", "5", "05", "005", "7", "12", "999", "0", "1000",
+                                "abc", "", "3.0", "-2"}) {
       for (const char* psp : {"0", "12.5", "47", "150"}) {
         data += "S" + std::to_string(++sample) + "," + hole + "," + section + "," + psp + "\r\n";
       }

@@ -14,15 +14,13 @@ ParsedDesktopCommandLine Parse(const std::vector<std::string>& args) {
   return ParseDesktopCommandLine(args);
 }
 
-TEST(DesktopOptions, withoutOptionsTheProgramStartsAsBefore) {
-  const ParsedDesktopCommandLine parsed = Parse({});
-  EXPECT_EQ(parsed.error, "");
-  EXPECT_FALSE(parsed.help || parsed.version || parsed.options.demo || parsed.options.duo);
-  EXPECT_EQ(parsed.options.files.model, "");
-  EXPECT_EQ(parsed.options.screenshot, "");
-}
+TEST(DesktopOptions, noneSetsNothingAndHelpOrVersionEndTheReadingWhereverTheyStand) {
+  // Without options the program starts as before.
+  const ParsedDesktopCommandLine none = Parse({});
+  EXPECT_EQ(none.error, "");
+  EXPECT_FALSE(none.help || none.version || none.options.demo || none.options.duo);
+  EXPECT_EQ(none.options.files.model + none.options.screenshot, "");
 
-TEST(DesktopOptions, helpAndVersionEndTheReadingWhereverTheyStand) {
   EXPECT_TRUE(Parse({"--help"}).help);
   EXPECT_TRUE(Parse({"-h", "--no-such-option"}).help);
   EXPECT_TRUE(Parse({"--demo", "--version", "stray"}).version);
@@ -39,16 +37,11 @@ TEST(DesktopOptions, eachFileOptionFillsItsOwnFieldWithOrWithoutEquals) {
              "--duo-model", "dm.csv", "--duo-events", "de.csv", "--duo-ages=da.csv", "--duo-varves",
              "dv.csv", "--screenshot", "shot.png"});
   ASSERT_EQ(parsed.error, "");
-  const ProjectFiles& files = parsed.options.files;
-  EXPECT_EQ(files.model, "m.csv");
-  EXPECT_EQ(files.events, "e.csv");
-  EXPECT_EQ(files.ages, "a.csv");
-  EXPECT_EQ(files.varves, "v.csv");
-  EXPECT_EQ(files.duoModel, "dm.csv");
-  EXPECT_EQ(files.duoEvents, "de.csv");
-  EXPECT_EQ(files.duoAges, "da.csv");
-  EXPECT_EQ(files.duoVarves, "dv.csv");
-  EXPECT_EQ(parsed.options.screenshot, "shot.png");
+  const ProjectFiles& f = parsed.options.files;
+  EXPECT_EQ((std::vector<std::string>{f.model, f.events, f.ages, f.varves, f.duoModel, f.duoEvents,
+                                      f.duoAges, f.duoVarves, parsed.options.screenshot}),
+            (std::vector<std::string>{"m.csv", "e.csv", "a.csv", "v.csv", "dm.csv", "de.csv",
+                                      "da.csv", "dv.csv", "shot.png"}));
   EXPECT_FALSE(parsed.options.demo);
 
   // A value that looks like an option is still the value.
@@ -57,13 +50,25 @@ TEST(DesktopOptions, eachFileOptionFillsItsOwnFieldWithOrWithoutEquals) {
   EXPECT_EQ(demo.error, "");
   EXPECT_TRUE(demo.options.demo && demo.options.duo);
   EXPECT_EQ(demo.options.screenshot, "a=b.png");
+  // The whole chain, the Duo with its event list only, is in order.
+  EXPECT_EQ(Parse({"--model", "m", "--events", "e", "--duo-model", "d", "--duo-events", "f"}).error,
+            "");
 }
 
-TEST(DesktopOptions, filesNamedOutOfTheChainsOrderAreRefused) {
+// Wrong words, and files named out of the chain's order; an error is
+// compared up to the reason that follows its colon.
+TEST(DesktopOptions, wrongWordsAndFilesOutOfTheChainsOrderAreRefused) {
   const struct {
     std::vector<std::string> args;
-    std::string errorStart;
+    std::string error;
   } cases[] = {
+      {{"--modell", "m.csv"}, "unknown option --modell"},
+      {{"-x"}, "unknown option -x"},
+      {{"--demo=yes"}, "unknown option --demo"},  // a flag takes no value
+      {{"--model"}, "--model needs a value"},
+      {{"--demo", "--screenshot"}, "--screenshot needs a value"},
+      {{"--model="}, "invalid value '' for --model"},
+      {{"model.csv"}, "unexpected argument 'model.csv'"},
       {{"--events", "e.csv"}, "--events needs --model"},
       {{"--model", "m.csv", "--ages", "a.csv"}, "--ages needs --events"},
       {{"--model", "m.csv", "--events", "e.csv", "--varves", "v.csv"}, "--varves needs --ages"},
@@ -76,23 +81,9 @@ TEST(DesktopOptions, filesNamedOutOfTheChainsOrderAreRefused) {
       {{"--demo", "--model", "m.csv"}, "--demo and --model exclude each other"},
   };
   for (const auto& c : cases) {
-    EXPECT_EQ(Parse(c.args).error.rfind(c.errorStart, 0), 0u)
-        << c.args.front() << ": " << Parse(c.args).error;
+    const std::string error = Parse(c.args).error;
+    EXPECT_EQ(error.substr(0, error.find(':')), c.error) << c.args.front() << ": " << error;
   }
-  // The whole chain, the Duo with its event list only, is in order.
-  EXPECT_EQ(Parse({"--model", "m", "--events", "e", "--duo-model", "d", "--duo-events", "f"}).error,
-            "");
-}
-
-TEST(DesktopOptions, wrongWordsAreUsageErrors) {
-  EXPECT_EQ(Parse({"--modell", "m.csv"}).error, "unknown option --modell");
-  EXPECT_EQ(Parse({"-x"}).error, "unknown option -x");
-  // A flag takes no value.
-  EXPECT_EQ(Parse({"--demo=yes"}).error, "unknown option --demo");
-  EXPECT_EQ(Parse({"--model"}).error, "--model needs a value");
-  EXPECT_EQ(Parse({"--demo", "--screenshot"}).error, "--screenshot needs a value");
-  EXPECT_EQ(Parse({"--model="}).error, "invalid value '' for --model");
-  EXPECT_EQ(Parse({"model.csv"}).error.rfind("unexpected argument 'model.csv'", 0), 0u);
 }
 
 }  // namespace

@@ -37,7 +37,7 @@ class MainWindow : public ShellTest {
   QMainWindow* window = nullptr;
 };
 
-TEST_F(MainWindow, ShowsTheCaptionControlsAndMenuBar) {
+TEST_F(MainWindow, ShowsTheCaptionControlsAndMenuBarAndImportsThroughTheDialog) {
   EXPECT_TRUE(window->isVisible());
   EXPECT_EQ(window->windowTitle(), QStringLiteral("Ostraline 7.7.4"));
 
@@ -56,22 +56,28 @@ TEST_F(MainWindow, ShowsTheCaptionControlsAndMenuBar) {
   // The slider (7590 to 7845) overlaps the scale strip (from 7680) and stays on top of it.
   EXPECT_EQ(window->centralWidget()->childAt(518, 300), WidgetOf<QWidget>(frmMain->Slider1));
 
-  QStringList shown;
-  for (const QAction* title : window->menuBar()->actions()) {
-    if (title->isVisible()) shown << title->text();
-  }
-  EXPECT_EQ(shown, (QStringList{"Range", "Font", "Tool", "Precision", "Info"}));
-
   // An entry captioned "-" is a separator line and shows no text beside it.
+  QStringList shown;
   int separators = 0;
   for (const QAction* title : window->menuBar()->actions()) {
+    if (title->isVisible()) shown << title->text();
     for (const QAction* entry : title->menu()->actions()) {
       if (!entry->isSeparator()) continue;
       ++separators;
       EXPECT_TRUE(entry->text().isEmpty()) << title->text().toStdString();
     }
   }
+  EXPECT_EQ(shown, (QStringList{"Range", "Font", "Tool", "Precision", "Info"}));
   EXPECT_GT(separators, 0);
+
+  // A click imports the model chosen in the dialog; caption and button follow.
+  dialogs.script.QueueFile(WriteTempFile("core_model_20110305.csv", ModelText(FourHoleModel())));
+  QTest::mouseClick(command1, Qt::LeftButton);
+  ASSERT_EQ(dialogs.script.dialogs.size(), 1u);
+  EXPECT_EQ(dialogs.script.dialogs[0].filter, "DataFile(*.csv)|*.csv");
+  for (const MessageRecord& message : dialogs.script.messages) ADD_FAILURE() << message.text;
+  EXPECT_TRUE(window->windowTitle().contains(QStringLiteral("core_model_20110305")));
+  EXPECT_FALSE(command1->isEnabled());
 }
 
 TEST_F(MainWindow, PicturesShowTheirOperationsAndTheFormItsLines) {
@@ -100,19 +106,6 @@ TEST_F(MainWindow, PicturesShowTheirOperationsAndTheFormItsLines) {
     for (int x = 0; x < 20; ++x) dark += form.pixelColor(x, y).lightness() < 100 ? 1 : 0;
   }
   EXPECT_GT(dark, 5);
-}
-
-TEST_F(MainWindow, ImportsTheModelChosenInTheDialog) {
-  dialogs.script.QueueFile(WriteTempFile("core_model_20110305.csv", ModelText(FourHoleModel())));
-  auto* command1 = WidgetOf<QPushButton>(frmMain->Command1);
-  QTest::mouseClick(command1, Qt::LeftButton);
-
-  ASSERT_EQ(dialogs.script.dialogs.size(), 1u);
-  EXPECT_EQ(dialogs.script.dialogs[0].filter, "DataFile(*.csv)|*.csv");
-  for (const MessageRecord& message : dialogs.script.messages) ADD_FAILURE() << message.text;
-  EXPECT_TRUE(window->windowTitle().contains(QStringLiteral("core_model_20110305")));
-  EXPECT_FALSE(frmMain->Command1.Enabled.Get());
-  EXPECT_FALSE(command1->isEnabled());
 }
 
 // A form that counts how often its window's events run its handlers.
@@ -165,12 +158,8 @@ TEST_F(MainWindow, ActivationRunsActivateAndGotFocusEachTimeTheFormComesBack) {
   counting.Detach();
 }
 
-using DialogWindows = ShellTest;
-
-TEST_F(DialogWindows, DisabledMainFormHandsTheActivationToTheDialog) {
-  frmMain->Show();
-  QWidget* main = WindowOf(*frmMain);
-  ASSERT_NE(main, nullptr);
+TEST_F(MainWindow, WhenDisabledItHandsTheActivationToTheDialog) {
+  QWidget* main = window;
   ASSERT_TRUE(QTest::qWaitForWindowActive(main));
 
   frmMain->Enabled = false;

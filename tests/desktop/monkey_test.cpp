@@ -35,6 +35,11 @@
 namespace ostraline {
 namespace {
 
+// A number below n, drawn from `draw`.
+std::size_t Below(std::mt19937& draw, std::size_t n) {
+  return std::uniform_int_distribution<std::size_t>(0, n - 1)(draw);
+}
+
 // Answers every dialog at random: a file of the sample project or cancel,
 // any of the offered buttons.
 class MonkeyDialogs : public Dialogs {
@@ -42,20 +47,17 @@ class MonkeyDialogs : public Dialogs {
   MonkeyDialogs(std::mt19937& draw, std::vector<std::string> files)
       : draw_(draw), files_(std::move(files)) {}
   std::string OpenFileName(const FileDialogRequest&) override {
-    if (Pick(5) == 0) return {};
-    return files_[Pick(files_.size())];
+    if (Below(draw_, 5) == 0) return {};
+    return files_[Below(draw_, files_.size())];
   }
   std::string SaveFileName(const FileDialogRequest&) override {
-    if (Pick(3) == 0) return {};
+    if (Below(draw_, 3) == 0) return {};
     return WriteTempFile("monkey_output.csv", "");
   }
   MsgAnswer MessageBox(const std::string&, const std::string&, MsgIcon,
                        MsgButtons buttons) override {
-    if (buttons == MsgButtons::YesNo) return Pick(2) == 0 ? MsgAnswer::Yes : MsgAnswer::No;
+    if (buttons == MsgButtons::YesNo) return Below(draw_, 2) == 0 ? MsgAnswer::Yes : MsgAnswer::No;
     return MsgAnswer::Ok;
-  }
-  std::size_t Pick(std::size_t n) {
-    return std::uniform_int_distribution<std::size_t>(0, n - 1)(draw_);
   }
 
  private:
@@ -65,32 +67,31 @@ class MonkeyDialogs : public Dialogs {
 
 class Monkey : public ShellTest {
  protected:
-  std::size_t Pick(std::size_t n) {
-    return std::uniform_int_distribution<std::size_t>(0, n - 1)(draw);
-  }
+  std::size_t Pick(std::size_t n) { return Below(draw, n); }
 
+  // One of the window's visible, enabled widgets of a kind (that fit), at
+  // random; none when there is none.
   template <class W>
-  std::vector<W*> Visible(QWidget* window) {
+  W* AnyOf(QWidget* window, bool (*fits)(const QWidget*) = nullptr) {
     std::vector<W*> found;
     for (W* widget : window->findChildren<W*>()) {
-      if (widget->isVisible() && widget->isEnabled()) found.push_back(widget);
+      if (widget->isVisible() && widget->isEnabled() && (fits == nullptr || fits(widget)))
+        found.push_back(widget);
     }
-    return found;
+    return found.empty() ? nullptr : found[Pick(found.size())];
   }
 
   // What the last step did, for the report of a failing walk.
   std::string last;
 
-  // The control's name, or its combo's for the box inside a combo.
-  static std::string ControlName(const QWidget* widget) {
-    if (widget->objectName().isEmpty() && widget->parentWidget() != nullptr)
-      return widget->parentWidget()->objectName().toStdString();
-    return widget->objectName().toStdString();
-  }
-
+  // The window, the control's name (its combo's for the box inside a combo)
+  // and the widget's class.
   static std::string Name(const QWidget* widget) {
-    return widget->window()->windowTitle().toStdString() + " / " + ControlName(widget) + " (" +
-           widget->metaObject()->className() + ")";
+    const QWidget* control = widget->objectName().isEmpty() && widget->parentWidget() != nullptr
+                                 ? widget->parentWidget()
+                                 : widget;
+    return widget->window()->windowTitle().toStdString() + " / " +
+           control->objectName().toStdString() + " (" + widget->metaObject()->className() + ")";
   }
 
   // The view's search by the trinity has no trap: a section that is not
@@ -123,33 +124,23 @@ class Monkey : public ShellTest {
   void Act(QWidget* window) {
     switch (Pick(8)) {
       case 0:
-      case 1: {
-        const auto boxes = Visible<QLineEdit>(window);
-        if (!boxes.empty()) Type(boxes[Pick(boxes.size())]);
+      case 1:
+        if (auto* box = AnyOf<QLineEdit>(window)) Type(box);
         break;
-      }
-      case 2: {
-        const auto buttons = Visible<QAbstractButton>(window);
-        if (!buttons.empty()) {
-          QAbstractButton* button = buttons[Pick(buttons.size())];
+      case 2:
+        if (auto* button = AnyOf<QAbstractButton>(window)) {
           last = "click " + Name(button) + " " + button->text().toStdString();
           QTest::mouseClick(button, Qt::LeftButton);
         }
         break;
-      }
-      case 3: {
-        const auto combos = Visible<QComboBox>(window);
-        if (!combos.empty()) {
-          QComboBox* combo = combos[Pick(combos.size())];
-          if (combo->count() > 0) {
-            const int index = static_cast<int>(Pick(combo->count()));
-            last = "pick " + std::to_string(index) + " in " + Name(combo);
-            combo->setCurrentIndex(index);
-            Q_EMIT combo->activated(index);
-          }
+      case 3:
+        if (auto* combo = AnyOf<QComboBox>(window); combo != nullptr && combo->count() > 0) {
+          const int index = static_cast<int>(Pick(combo->count()));
+          last = "pick " + std::to_string(index) + " in " + Name(combo);
+          combo->setCurrentIndex(index);
+          Q_EMIT combo->activated(index);
         }
         break;
-      }
       case 4: {
         auto* main = qobject_cast<QMainWindow*>(window);
         if (main == nullptr || main->menuBar() == nullptr) break;
@@ -162,9 +153,8 @@ class Monkey : public ShellTest {
         }
         if (!entries.empty()) {
           QAction* entry = entries[Pick(entries.size())];
-          last =
-              "menu " + entry->text().toStdString() + " on " + window->windowTitle().toStdString() +
-              " / " + entry->objectName().toStdString();
+          last = "menu " + entry->text().toStdString() + " on " +
+                 window->windowTitle().toStdString() + " / " + entry->objectName().toStdString();
           entry->trigger();
         }
         break;
@@ -172,13 +162,10 @@ class Monkey : public ShellTest {
       case 5:
       case 6: {
         // The columns, the strip and the panels take moves and both buttons.
-        std::vector<QWidget*> surfaces;
-        for (QWidget* widget : Visible<QWidget>(window)) {
-          if (widget->children().isEmpty() && widget->width() > 20 && widget->height() > 100)
-            surfaces.push_back(widget);
-        }
-        if (surfaces.empty()) break;
-        QWidget* surface = surfaces[Pick(surfaces.size())];
+        QWidget* surface = AnyOf<QWidget>(window, [](const QWidget* widget) {
+          return widget->children().isEmpty() && widget->width() > 20 && widget->height() > 100;
+        });
+        if (surface == nullptr) break;
         const QPoint at(static_cast<int>(Pick(surface->width())),
                         static_cast<int>(Pick(surface->height())));
         last = "pointer over " + Name(surface);
@@ -269,7 +256,8 @@ TEST_F(Monkey, ThousandsOfRandomEventsCrashAndHangNothing) {
     if (EscapedFailures() != escapes) {
       escapes = EscapedFailures();
       const std::string& source = LastEscapeSource();
-      std::fprintf(stderr, "monkey: event %d, %s: a failure of %s reached the run-time's error box\n",
+      std::fprintf(stderr,
+                   "monkey: event %d, %s: a failure of %s reached the run-time's error box\n",
                    event, last.c_str(), source.c_str());
       EXPECT_TRUE(UntrappedByDesign(source)) << "event " << event << ": " << last << ", " << source;
     }

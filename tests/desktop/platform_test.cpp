@@ -73,15 +73,8 @@ TEST(QtPlatformTest, LoadedPicturesPaintAsRasterOperations) {
   EXPECT_EQ(raster->widthPixels, 4);
   EXPECT_EQ(raster->heightPixels, 2);
 
-  Picture picture;
-  picture.width = 600;
-  picture.height = 300;
-  DrawOp op;
-  op.kind = DrawKind::Raster;
-  op.x2 = 600;
-  op.y2 = 300;
-  op.raster = raster;
-  picture.ops.push_back(op);
+  Picture picture{.width = 600, .height = 300};
+  picture.ops.push_back({.kind = DrawKind::Raster, .x2 = 600, .y2 = 300, .raster = raster});
   // The clipboard takes the same rendering as the screen.
   platform.ClipboardClear();
   platform.ClipboardSetPicture(picture);
@@ -106,62 +99,50 @@ constexpr long kRed = RGB(255, 0, 0);
 
 // A white picture of 100 by 100 pixels.
 Picture Blank() {
-  Picture picture;
-  picture.width = 1500;
-  picture.height = 1500;
-  picture.backColour = kWhite;
-  picture.empty = false;
-  return picture;
+  return {.width = 1500, .height = 1500, .backColour = kWhite, .empty = false};
 }
 
 DrawOp Op(DrawKind kind, float x1, float y1, float x2, float y2, long colour) {
-  DrawOp op;
-  op.kind = kind;
-  op.x1 = x1;
-  op.y1 = y1;
-  op.x2 = x2;
-  op.y2 = y2;
-  op.colour = colour;
-  op.fillColour = colour;
+  DrawOp op{.kind = kind, .x1 = x1, .y1 = y1, .x2 = x2, .y2 = y2, .colour = colour};
   op.filled = kind == DrawKind::Box;
+  op.fillColour = colour;
   return op;
+}
+
+// The box around the pixels for which `is` holds, and their count.
+template <class Is>
+std::pair<QRect, int> Pixels(const QImage& image, Is is) {
+  std::pair<QRect, int> found;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      if (!is(image.pixelColor(x, y))) continue;
+      found.first |= QRect(x, y, 1, 1);
+      ++found.second;
+    }
+  }
+  return found;
 }
 
 // The pixels that are neither of the two colours: smoothing or blur.
 int Blended(const QImage& image, QColor a, QColor b) {
-  int count = 0;
-  for (int y = 0; y < image.height(); ++y) {
-    for (int x = 0; x < image.width(); ++x) {
-      const QColor c = image.pixelColor(x, y);
-      count += c != a && c != b ? 1 : 0;
-    }
-  }
-  return count;
+  return Pixels(image, [&](QColor c) { return c != a && c != b; }).second;
 }
 
 QRect Extent(const QImage& image, QColor colour) {
-  QRect extent;
-  for (int y = 0; y < image.height(); ++y) {
-    for (int x = 0; x < image.width(); ++x) {
-      if (image.pixelColor(x, y) == colour) extent |= QRect(x, y, 1, 1);
-    }
-  }
-  return extent;
+  return Pixels(image, [&](QColor c) { return c == colour; }).first;
 }
 
 TEST(PicturePainter, BoxesAreCrispAtEveryPixelRatio) {
   Picture picture = Blank();
   // 10 to 49.83 pixels across, 10 to 40 down.
   picture.ops.push_back(Op(DrawKind::Box, 150, 150, 747.5f, 600, kRed));
-  const QImage single = RenderPicture(picture, 1);
-  EXPECT_EQ(single.size(), QSize(100, 100));
-  EXPECT_EQ(Blended(single, Qt::white, Qt::red), 0);
-  EXPECT_EQ(Extent(single, Qt::red), QRect(QPoint(10, 10), QPoint(49, 40)));
-
-  const QImage doubled = RenderPicture(picture, 2);
-  EXPECT_EQ(doubled.size(), QSize(200, 200));
-  EXPECT_EQ(Blended(doubled, Qt::white, Qt::red), 0);
-  EXPECT_EQ(Extent(doubled, Qt::red), QRect(QPoint(20, 20), QPoint(99, 80)));
+  for (const int ratio : {1, 2}) {
+    const QImage image = RenderPicture(picture, ratio);
+    EXPECT_EQ(image.size(), QSize(100, 100) * ratio);
+    EXPECT_EQ(Blended(image, Qt::white, Qt::red), 0) << ratio;
+    EXPECT_EQ(Extent(image, Qt::red), ratio == 1 ? QRect(QPoint(10, 10), QPoint(49, 40))
+                                                 : QRect(QPoint(20, 20), QPoint(99, 80)));
+  }
 }
 
 TEST(PicturePainter, LevelLinesAndDotsArePixelExact) {
@@ -179,9 +160,8 @@ TEST(PicturePainter, LevelLinesAndDotsArePixelExact) {
 
 TEST(PicturePainter, CirclesAreSmoothAndTextHangsFromItsCorner) {
   Picture picture = Blank();
-  DrawOp circle = Op(DrawKind::Circle, 750, 750, 0, 0, kBlack);
-  circle.radius = 300;  // 20 pixels
-  circle.filled = true;
+  // A black ring (the colour 0) of 20 pixels' radius, filled red.
+  DrawOp circle{.kind = DrawKind::Circle, .x1 = 750, .y1 = 750, .radius = 300, .filled = true};
   circle.fillColour = kRed;
   picture.ops.push_back(circle);
   const QImage round = RenderPicture(picture, 1);
@@ -189,23 +169,14 @@ TEST(PicturePainter, CirclesAreSmoothAndTextHangsFromItsCorner) {
   EXPECT_EQ(round.pixelColor(50, 80), QColor(Qt::white));
   EXPECT_GT(Blended(round, Qt::white, Qt::red), 20);  // the smoothed outline
 
+  Picture text = Blank();
+  text.ops.push_back({.kind = DrawKind::Text, .x1 = 300, .y1 = 450, .fontSize = 10, .text = "Hg"});
   for (const qreal ratio : {1.0, 2.0}) {
-    Picture text = Blank();
-    DrawOp print = Op(DrawKind::Text, 300, 450, 0, 0, kBlack);
-    print.text = "Hg";
-    print.fontSize = 10;
-    text.ops.push_back(print);
-    const QImage image = RenderPicture(text, ratio);
-    QRect ink;
-    for (int y = 0; y < image.height(); ++y) {
-      for (int x = 0; x < image.width(); ++x) {
-        if (image.pixelColor(x, y).lightness() < 128) ink |= QRect(x, y, 1, 1);
-      }
-    }
+    const QRect ink =
+        Pixels(RenderPicture(text, ratio), [](QColor c) { return c.lightness() < 128; }).first;
     // 10 points are 13.3 pixels: the ink starts at the corner (20, 30) and
     // stays within one line below it.
-    const QRectF logical(ink.x() / ratio, ink.y() / ratio, ink.width() / ratio,
-                         ink.height() / ratio);
+    const QRectF logical(QPointF(ink.topLeft()) / ratio, QSizeF(ink.size()) / ratio);
     EXPECT_GE(logical.left(), 20);
     EXPECT_LE(logical.left(), 22);
     EXPECT_GE(logical.top(), 30);

@@ -96,14 +96,12 @@ TEST(SampleProjectFolder, isFoundBesideTheProgramInItsInstallationOrInTheSourceT
   ASSERT_TRUE(root.isValid());
   const QDir prefix(root.path());
   const std::string program = prefix.filePath("bin/ostraline").toStdString();
-  ASSERT_TRUE(prefix.mkpath("bin"));
-  EXPECT_EQ(SampleProjectFolder(program), QDir(OSTRALINE_SAMPLES).absolutePath().toStdString());
-  ASSERT_TRUE(prefix.mkpath("share/ostraline/samples"));
-  EXPECT_EQ(SampleProjectFolder(program),
-            QDir(prefix.filePath("share/ostraline/samples")).absolutePath().toStdString());
-  ASSERT_TRUE(prefix.mkpath("bin/samples"));
-  EXPECT_EQ(SampleProjectFolder(program),
-            QDir(prefix.filePath("bin/samples")).absolutePath().toStdString());
+  // Beside a bare bin, the source tree's; then each folder made comes before the last.
+  for (const QString folder : {"bin", "share/ostraline/samples", "bin/samples"}) {
+    ASSERT_TRUE(prefix.mkpath(folder));
+    const QString found = folder == "bin" ? OSTRALINE_SAMPLES : prefix.filePath(folder);
+    EXPECT_EQ(SampleProjectFolder(program), QDir(found).absolutePath().toStdString());
+  }
 }
 
 }  // namespace

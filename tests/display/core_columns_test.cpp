@@ -2,7 +2,9 @@
 #include <algorithm>
 #include <cmath>
 #include <functional>
+#include <initializer_list>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/project_state.h"
@@ -25,6 +27,8 @@ constexpr long kCyan = RGB(220, 255, 255);
 constexpr long kOrange = RGB(255, 150, 0);
 constexpr long kYellow = RGB(225, 225, 125);
 constexpr long kTephraBlue = RGB(150, 150, 255);
+constexpr long kGreen = RGB(0, 170, 0);
+constexpr long kBlue = RGB(0, 0, 255);
 
 // A row with cells for bore holes A and B; C and D are starred, so empty.
 ModelRow Row(const std::string& splice, std::vector<std::string> a, std::vector<std::string> b,
@@ -127,6 +131,11 @@ class CoreColumns : public FreshProgram {
     const auto it = std::find_if(ops.begin(), ops.end(), match);
     return it == ops.end() ? -1 : static_cast<long>(it - ops.begin());
   }
+  // The dark grey diagonals across a column between two depths: 2 for a cross.
+  long Crosses(int column, float upper, float lower) {
+    return Count(column, LineAt(kDarkGrey, 0, upper, 7.6f, lower)) +
+           Count(column, LineAt(kDarkGrey, 0, lower, 7.6f, upper));
+  }
   const DrawOp* Text(int column, const std::string& text) {
     for (const DrawOp& op : Ops(column)) {
       if (op.kind == DrawKind::Text && op.text == text) return &op;
@@ -163,18 +172,22 @@ TEST_F(CoreColumns, boreHoleWithoutSectionTopIsGreyAndDisabledAndThePointerLineC
   EXPECT_FALSE(frmMain->Label1(2).Enabled);
   // A starts at its first section: grey above with a cross.
   EXPECT_EQ(Count(1, Box(kGrey, 0, 100)), 1);
-  EXPECT_EQ(Count(1, LineAt(kDarkGrey, 0, 0, 7.6f, 100)), 1);
-  EXPECT_EQ(Count(1, LineAt(kDarkGrey, 0, 100, 7.6f, 0)), 1);
+  EXPECT_EQ(Crosses(1, 0, 100), 2);
   EXPECT_FALSE(HoleAbsent(1));
   EXPECT_TRUE(frmMain->BoreHole(1).Enabled);
   // The composite column: grey above the first tie with a cross, below the last without.
   EXPECT_EQ(Count(0, Box(kGrey, 0, 100)), 1);
   EXPECT_EQ(Count(0, Box(kGrey, 360, 500)), 1);
-  EXPECT_EQ(Count(0, LineAt(kDarkGrey, 0, 360, 7.6f, 500)), 0);
+  EXPECT_EQ(Crosses(0, 360, 500), 0);
+
+  // The fixed horizon has a check mark of its own that the drawing reads.
+  frmMain->mnuHorizontalBH.Click();
+  EXPECT_TRUE(frmMain->mnuHorizontalBH.Checked);
+  EXPECT_EQ(Count(3, Mark(kGreen, 250)), 1);
+  EXPECT_TRUE(frmMain->mnuHorizontal.Checked);
+  EXPECT_TRUE(frmMain->mnuHorizontalN(4).Checked);
 
   // The pointer line is an overlay that clears away.
-  frmMain->mnuHorizontalBH.Click();
-  EXPECT_EQ(Count(3, Mark(RGB(0, 170, 0), 250)), 1);
   const std::size_t base = Ops(1).size();
 
   TargetLine(masterSet, 300);
@@ -204,6 +217,12 @@ TEST_F(CoreColumns, boreHoleWithoutSectionTopIsGreyAndDisabledAndThePointerLineC
   frmMain->mnuHorizontalN(3).Click();
   EXPECT_TRUE(frmMain->mnuHorizontal.Checked);
   EXPECT_TRUE(frmMain->mnuHorizontalN(0).Checked);
+  // The pointer line's six switches and the fixed horizon leave each other alone.
+  EXPECT_TRUE(frmMain->mnuHorizontalBH.Checked);
+  frmMain->mnuHorizontalBH.Click();
+  EXPECT_FALSE(frmMain->mnuHorizontalBH.Checked);
+  EXPECT_EQ(Count(3, Mark(kGreen, 250)), 0);
+  EXPECT_TRUE(frmMain->mnuHorizontal.Checked);
 }
 
 TEST_F(CoreColumns, pieceAfterAGapStartsFromThePspOfTheRowAfterTheGap) {
@@ -282,13 +301,12 @@ TEST_F(CoreColumns, sectionGapsAreComparedAsTextAndLongOnesStayUncrossed) {
   // "1005.2" sorts before "998.4": no band there.
   EXPECT_EQ(Count(1, Box(kGrey, 998.4f, 1005.2f)), 0);
   EXPECT_EQ(Count(1, Box(kGrey, 1100.5f, 1150)), 1);
-  EXPECT_EQ(Count(1, LineAt(kDarkGrey, 0, 1100.5f, 7.6f, 1150)), 1);
+  EXPECT_EQ(Crosses(1, 1100.5f, 1150), 2);
   // 2000 missing: grey without a cross; 1999: crossed.
   EXPECT_EQ(Count(1, Box(kGrey, 1250, 3250)), 1);
-  EXPECT_EQ(Count(1, LineAt(kDarkGrey, 0, 1250, 7.6f, 3250)), 0);
+  EXPECT_EQ(Crosses(1, 1250, 3250), 0);
   EXPECT_EQ(Count(1, Box(kGrey, 3350, 5349)), 1);
-  EXPECT_EQ(Count(1, LineAt(kDarkGrey, 0, 3350, 7.6f, 5349)), 1);
-  EXPECT_EQ(Count(1, LineAt(kDarkGrey, 0, 5349, 7.6f, 3350)), 1);
+  EXPECT_EQ(Crosses(1, 3350, 5349), 2);
 }
 
 TEST_F(CoreColumns, pinIsAGreenDotWithItsLabelAndNoLine) {
@@ -318,7 +336,7 @@ TEST_F(CoreColumns, pinIsAGreenDotWithItsLabelAndNoLine) {
             0);
   // An ordinary row: a magenta line for a one-letter splice cell, its label above it.
   EXPECT_EQ(Count(1, Mark(RGB(255, 0, 255), 150)), 1);
-  EXPECT_EQ(Count(1, Mark(RGB(0, 0, 255), 190)), 1);
+  EXPECT_EQ(Count(1, Mark(kBlue, 190)), 1);
   const DrawOp* label = Text(1, "L1 (50 cm)");
   ASSERT_NE(label, nullptr);
   EXPECT_TRUE(Near(label->uy1, static_cast<float>(150 - k)));
@@ -337,20 +355,19 @@ TEST_F(CoreColumns, layersLieInTheirOrderRepaintsDoNotPileUpAndSizeOneLeavesNoTe
   LoadEventsAndAges();
   View(0, 500);
   DrawLamina();
-  const long splice = IndexOf(1, Box(kCyan, 150, 200));
-  const long gap = IndexOf(1, Box(kGrey, 200, 260));
-  const long event = IndexOf(1, Box(RGB(150, 150, 255), 220, 230));
-  const long cross = IndexOf(1, LineAt(kDarkGrey, 0, 200, 7.6f, 260));
-  const long point = IndexOf(1, [](const DrawOp& op) {
+  // Splice band, gap, tephra, gap cross, control point, section mark.
+  const Match point = [](const DrawOp& op) {
     return op.kind == DrawKind::Circle && op.colour == RGB(100, 100, 255) && Near(op.uy1, 240);
-  });
-  const long mark = IndexOf(1, Mark(RGB(0, 0, 255), 260));
-  ASSERT_GE(splice, 0);
-  EXPECT_LT(splice, gap);
-  EXPECT_LT(gap, event);
-  EXPECT_LT(event, cross);
-  EXPECT_LT(cross, point);
-  EXPECT_LT(point, mark);
+  };
+  std::vector<long> order;
+  for (const Match& match : {Box(kCyan, 150, 200), Box(kGrey, 200, 260), Box(kTephraBlue, 220, 230),
+                             LineAt(kDarkGrey, 0, 200, 7.6f, 260), point, Mark(kBlue, 260)}) {
+    order.push_back(IndexOf(1, match));
+  }
+  EXPECT_GE(order.front(), 0);
+  EXPECT_TRUE(std::adjacent_find(order.begin(), order.end(), std::greater_equal<long>()) ==
+              order.end())
+      << testing::PrintToString(order);
   // The control point of no bore hole stands on the composite column alone.
   EXPECT_EQ(Count(0, [](const DrawOp& op) { return op.kind == DrawKind::Circle; }), 2);
   EXPECT_EQ(Count(1, [](const DrawOp& op) { return op.kind == DrawKind::Circle; }), 1);
@@ -399,13 +416,10 @@ class EventView : public CoreColumns {
 };
 
 TEST(TephraNameTest, nameBesideTheWordAtEitherEnd) {
-  EXPECT_EQ(GetTephraName("Tephra X"), "X");
-  EXPECT_EQ(GetTephraName("X Tephra"), "X");
-  EXPECT_EQ(GetTephraName("Tephra"), "");
-  EXPECT_EQ(GetTephraName("Tephra "), "");
-  EXPECT_EQ(GetTephraName(" tephra Mount 7"), "Mount 7");
-  EXPECT_EQ(GetTephraName("Mount 7 tephra "), "Mount 7");
-  EXPECT_EQ(GetTephraName("Laacher Tephra layer"), "");
+  const std::pair<const char*, const char*> names[] = {
+      {"Tephra X", "X"}, {"X Tephra", "X"}, {"Tephra", ""}, {"Tephra ", ""},
+      {" tephra Mount 7", "Mount 7"}, {"Mount 7 tephra ", "Mount 7"}, {"Laacher Tephra layer", ""}};
+  for (auto [description, name] : names) EXPECT_EQ(GetTephraName(description), name) << description;
   EXPECT_TRUE(IsTephra("Tephra in void"));
   EXPECT_TRUE(IsVoid("Tephra in void"));
   EXPECT_FALSE(IsTephra("Tephr"));
@@ -485,6 +499,17 @@ class ScaleStrip : public CoreColumns {
                     Near(op.uy1, y);
            }) > 0;
   }
+  struct Tick {
+    float fromX, y;
+  };
+  struct Number {
+    const char* text;
+    float x, y;
+  };
+  void ExpectStrip(std::initializer_list<Tick> ticks, std::initializer_list<Number> numbers) {
+    for (const Tick& t : ticks) EXPECT_TRUE(HasTick(t.fromX, t.y)) << t.fromX << ", " << t.y;
+    for (const Number& n : numbers) EXPECT_TRUE(HasNumber(n.text, n.x, n.y)) << n.text;
+  }
   long TicksFrom(float fromX) {
     return Count(5, [&](const DrawOp& op) {
       return op.kind == DrawKind::Line && Near(op.ux1, fromX) && op.uy1 == op.uy2;
@@ -535,15 +560,8 @@ TEST_F(ScaleStrip, depthScaleTicksAndNumbersStandLevelWithTheColumnsBySpan) {
   EXPECT_TRUE(frmMain->mnuDepth.Checked);
   EXPECT_FALSE(frmMain->mnuAge.Checked);
   EXPECT_TRUE(strip.WorkingOps().empty());
-  EXPECT_TRUE(HasTick(7, 0));
-  EXPECT_TRUE(HasNumber(" 0 ", 4.8f, -5));
-  EXPECT_TRUE(HasTick(7, 100));
-  EXPECT_TRUE(HasNumber(" 100 ", 2.8f, 95));
-  EXPECT_TRUE(HasTick(8, 50));
-  EXPECT_TRUE(HasNumber(" 50 ", 3.8f, 45));
-  EXPECT_TRUE(HasTick(8, 450));
-  EXPECT_TRUE(HasTick(8.5f, 10));
-  EXPECT_TRUE(HasTick(8.5f, 490));
+  ExpectStrip({{7, 0}, {7, 100}, {8, 50}, {8, 450}, {8.5f, 10}, {8.5f, 490}},
+              {{" 0 ", 4.8f, -5}, {" 100 ", 2.8f, 95}, {" 50 ", 3.8f, 45}});
   // What lies outside the strip is clipped away.
   EXPECT_FALSE(HasTick(7, 1000));
   EXPECT_EQ(platform.MousePointer(), 0);
@@ -553,9 +571,7 @@ TEST_F(ScaleStrip, depthScaleTicksAndNumbersStandLevelWithTheColumnsBySpan) {
   frmMain->mnuDepth.Click();
   EXPECT_EQ(TicksFrom(8), 0);
   EXPECT_FALSE(HasNumber(" 150 ", 2.8f, 130));
-  EXPECT_TRUE(HasTick(7, 1000));
-  EXPECT_TRUE(HasNumber(" 1000 ", 1.8f, 980));
-  EXPECT_TRUE(HasTick(8.5f, 1990));
+  ExpectStrip({{7, 1000}, {8.5f, 1990}}, {{" 1000 ", 1.8f, 980}});
 
   View(0, 1000);
   frmMain->mnuDepth.Click();
@@ -570,7 +586,6 @@ TEST_F(ScaleStrip, varveBandFixedHorizonAndCopyOnWhite) {
   frmMain->mnuHorizontalBH.Checked = true;
   frmMain->mnuDepth.Click();
   PictureBox& strip = frmMain->BoreHole(5);
-  const long green = RGB(0, 170, 0);
   const float middle = strip.ScaleTop + strip.ScaleHeight / 2;
   EXPECT_EQ(Count(5,
                   [](const DrawOp& op) {
@@ -578,9 +593,9 @@ TEST_F(ScaleStrip, varveBandFixedHorizonAndCopyOnWhite) {
                            Near(op.ux2, 9);
                   }),
             1);
-  EXPECT_EQ(Count(5, LineAt(green, 7.5f, middle, 9.5f, middle)), 1);
+  EXPECT_EQ(Count(5, LineAt(kGreen, 7.5f, middle, 9.5f, middle)), 1);
   EXPECT_TRUE(std::any_of(Ops(5).begin(), Ops(5).end(), [&](const DrawOp& op) {
-    return op.kind == DrawKind::Circle && op.filled && op.fillColour == green &&
+    return op.kind == DrawKind::Circle && op.filled && op.fillColour == kGreen &&
            Near(op.ux1, 7.25f);
   }));
 
@@ -609,13 +624,8 @@ TEST_F(ScaleStrip, ageScaleLabelsEachThousandYearsAndSkipsWhereItIsTold) {
   frmMain->mnuAge.Click();
   EXPECT_TRUE(frmMain->mnuAge.Checked);
   EXPECT_FALSE(frmMain->mnuDepth.Checked);
-  EXPECT_TRUE(HasTick(8, 0));
-  EXPECT_TRUE(HasNumber(" 0 ", 6.2f, -5));
-  EXPECT_TRUE(HasTick(8, 100));
-  EXPECT_TRUE(HasNumber(" 1000 ", 2.8f, 95));
-  EXPECT_TRUE(HasNumber(" 5000 ", 2.8f, 495));
-  EXPECT_TRUE(HasTick(8.1f, 50));
-  EXPECT_TRUE(HasTick(8.55f, 10));
+  ExpectStrip({{8, 0}, {8, 100}, {8.1f, 50}, {8.55f, 10}},
+              {{" 0 ", 6.2f, -5}, {" 1000 ", 2.8f, 95}, {" 5000 ", 2.8f, 495}});
   EXPECT_EQ(platform.MousePointer(), 0);
 
   // With both ends past 9900 and 99100 years the loop of ten thousands is
@@ -623,11 +633,8 @@ TEST_F(ScaleStrip, ageScaleLabelsEachThousandYearsAndSkipsWhereItIsTold) {
   // are thousands.
   View(9850, 500);
   frmMain->mnuAge.Click();
-  EXPECT_TRUE(HasTick(8.55f, 9900));
   EXPECT_EQ(Count(5, [](const DrawOp& op) { return op.text == " 99000 "; }), 0);
-  EXPECT_TRUE(HasTick(8, 10000));
-  EXPECT_TRUE(HasNumber(" 100 ", 3.8f, 9995));
-  EXPECT_TRUE(HasNumber(" 103 ", 3.8f, 10295));
+  ExpectStrip({{8.55f, 9900}, {8, 10000}}, {{" 100 ", 3.8f, 9995}, {" 103 ", 3.8f, 10295}});
 
   // Size one leaves the fine depth ticks and only the age axis.
   View(0, 500);
@@ -687,19 +694,16 @@ TEST_F(ScaleStrip, longAgeLoopsShowWhatTheFullLoopShows) {
     if (top == 0) {
       EXPECT_LT(std::count_if(fast.ops.begin(), fast.ops.end(), isTick), fullTicks / 2);
     }
-    std::vector<DrawOp> others;
-    std::copy_if(fast.ops.begin(), fast.ops.end(), std::back_inserter(others),
-                 [&](const DrawOp& op) { return !isTick(op); });
-    std::size_t next = 0;
-    for (const DrawOp& op : full.ops) {
-      if (isTick(op)) continue;
-      ASSERT_LT(next, others.size());
-      EXPECT_TRUE(op.kind == others[next].kind && op.y1 == others[next].y1 &&
-                  op.text == others[next].text)
-          << top;
-      ++next;
-    }
-    EXPECT_EQ(next, others.size());
+    // Everything else, in its order.
+    const auto others = [&](const std::vector<DrawOp>& ops) {
+      std::vector<std::pair<float, std::string>> kept;
+      for (const DrawOp& op : ops) {
+        if (isTick(op)) continue;
+        kept.emplace_back(op.y1, std::to_string(static_cast<int>(op.kind)) + op.text);
+      }
+      return kept;
+    };
+    EXPECT_EQ(others(fast.ops), others(full.ops)) << top;
     for (const float fromX : {8.1f, 8.55f}) {
       for (const int ratio : {1, 2, 3}) {
         EXPECT_EQ(rows(fast.ops, fromX, ratio), rows(full.ops, fromX, ratio))

@@ -92,9 +92,24 @@ TEST_F(Divider, BothWaysBetweenTheNumberings) {
   EXPECT_EQ(form.Label3.Caption.Get(), "Target depth = 35 cm");
 }
 
-TEST_F(Divider, LevelsPickedInTheLists) {
-  FrmDivider& form = Open(10, 30, 50);
+TEST_F(Divider, OpenedFromTheToolMenuLevelsPickedInTheListsAndClosed) {
+  // The target at 135 cm lies between L1 and L2 of bore hole A.
+  TypeCompositeDepth("135");
+  frmMain->mnuBH_Click(1);
+  FrmDivider& form = *frmDivider;
+  ASSERT_TRUE(form.Visible);
+  EXPECT_FLOAT_EQ(TieAbovePSP, 10);
+  EXPECT_FLOAT_EQ(TieBelowPSP, 50);
+  EXPECT_EQ(form.Label3.Caption.Get(), "Target depth = 30 cm");
+  // The same level in both lists hides the sampling position. The lists
+  // hold the rows of the target's section.
+  form.Combo1(1).Text = "L1";
+  form.Combo1_Click(1);
+  EXPECT_FALSE(form.Label1.Visible);
+  EXPECT_EQ(DrivenBy, 0);
+
   // A section's top can't be the lower level: that list alone is emptied.
+  Open(10, 30, 50);
   form.Combo1(1).Text = "A-01-top";
   form.Combo1_Click(1);
   EXPECT_EQ(form.Combo1(1).Text.Get(), "");
@@ -104,24 +119,6 @@ TEST_F(Divider, LevelsPickedInTheLists) {
   form.Combo1_Click(0);
   EXPECT_EQ(form.Combo1(0).Text.Get(), "");
 
-  // The same level in both lists hides the sampling position. The lists
-  // hold the rows of the target's section.
-  TypeCompositeDepth("135");
-  Open(10, 30, 50);
-  form.Combo1(1).Text = "L1";
-  form.Combo1_Click(1);
-  EXPECT_FALSE(form.Label1.Visible);
-  EXPECT_EQ(DrivenBy, 0);
-}
-
-TEST_F(Divider, OpenedFromTheToolMenuAndClosed) {
-  // The target at 135 cm lies between L1 and L2 of bore hole A.
-  TypeCompositeDepth("135");
-  frmMain->mnuBH_Click(1);
-  ASSERT_TRUE(frmDivider->Visible);
-  EXPECT_FLOAT_EQ(TieAbovePSP, 10);
-  EXPECT_FLOAT_EQ(TieBelowPSP, 50);
-  EXPECT_EQ(frmDivider->Label3.Caption.Get(), "Target depth = 30 cm");
   frmDivider.Unload();
   EXPECT_FALSE(DividerOpen);
   EXPECT_EQ(TieAboveLabel, "0");

@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -156,38 +155,6 @@ TEST_F(RangeAndLayout, PrecisionMenusSetTheDigitsAndMoveTheCheckMark) {
   form.mnuDepPrec(0).Click();
   EXPECT_EQ(DepthPrecision, 0);
   EXPECT_EQ(CheckedEntry(form.mnuDepPrec), 0);
-}
-
-// The fixed horizon has a check mark of its own that the drawing reads; the
-// six switches of the pointer's line leave it alone and it leaves them alone.
-TEST_F(RangeAndLayout, FixedHorizonTogglesItsOwnMarkAndRedraws) {
-  Load(FourHoleModel());
-  FrmMain& form = *frmMain;
-  const long green = RGB(0, 170, 0);
-  auto horizons = [&] {
-    return std::count_if(form.BoreHole(1).BaseOps().begin(), form.BoreHole(1).BaseOps().end(),
-                         [&](const DrawOp& op) {
-                           return op.kind == DrawKind::Line && op.colour == green &&
-                                  op.uy1 == op.uy2 && op.ux2 > 7;
-                         });
-  };
-  const bool pointerLine = form.mnuHorizontal.Checked;
-  ASSERT_FALSE(form.mnuHorizontalBH.Checked);
-  ASSERT_EQ(horizons(), 0);
-
-  form.mnuHorizontalBH.Click();
-  EXPECT_TRUE(form.mnuHorizontalBH.Checked);
-  EXPECT_EQ(horizons(), 1);
-  EXPECT_EQ(form.mnuHorizontal.Checked.Get(), pointerLine);
-  EXPECT_EQ(form.mnuHorizontalN(4).Checked.Get(), pointerLine);
-
-  form.mnuHorizontalN(2).Click();
-  EXPECT_TRUE(form.mnuHorizontalBH.Checked);
-
-  form.mnuHorizontalBH.Click();
-  EXPECT_FALSE(form.mnuHorizontalBH.Checked);
-  EXPECT_EQ(horizons(), 0);
-  EXPECT_EQ(form.mnuHorizontal.Checked.Get(), !pointerLine);
 }
 
 }  // namespace

@@ -1,7 +1,5 @@
 // The Duo's parallel set: its model tied to the master's scale, the map
 // between the two composite scales, its event list and its copy of the ages.
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <vector>
 
@@ -37,12 +35,10 @@ void SetTies(const std::vector<std::pair<std::string, double>>& ties) {
 
 TEST_F(FreshProgram, DuoMapStretchesBetweenTiesAndRunsOneToOneOutside) {
   SetTies({{"100", 110}, {"150", 9999}, {"200", 230}, {"9999", 300}});
-  EXPECT_EQ(DuoToMaster(150), 170);
-  EXPECT_EQ(DuoToMaster(50), 60);
-  EXPECT_EQ(DuoToMaster(250), 280);
-  EXPECT_EQ(MasterToDuo(170), 150);
-  EXPECT_EQ(MasterToDuo(60), 50);
-  EXPECT_EQ(MasterToDuo(280), 250);
+  for (auto [duo, master] : {std::pair{150.0f, 170.0f}, {50.0f, 60.0f}, {250.0f, 280.0f}}) {
+    EXPECT_EQ(DuoToMaster(duo), master);
+    EXPECT_EQ(MasterToDuo(master), duo);
+  }
   for (const Single sentinel : {9999.0f, -9999.0f}) {
     EXPECT_EQ(DuoToMaster(sentinel), 9999);
     EXPECT_EQ(MasterToDuo(sentinel), 9999);
@@ -229,20 +225,11 @@ TEST_F(DuoProgram, BothFormsConvertPositionsOfBothSets) {
       "Sample,Hole,Section,PSP\r\nS1,E,01,60\r\nS2,A,02,40\r\nS3,Q,01,10\r\n";
   const auto convert = [&](bool duo) {
     platform.QueueFile(WriteTempFile("samples.csv", positions));
-    if (duo) {
-      frm2Main->Command2.Click();
-    } else {
-      frmMain->Command2.Click();
-    }
+    (duo ? *frm2Main : *frmMain).Command2.Click();
     const std::string output = WriteTempFile("converted.csv", "");
     platform.QueueFile(output);
-    if (duo) {
-      frm2Conversion->Command1_Click();
-    } else {
-      frmConversion->Command1_Click();
-    }
-    std::ifstream in(output, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(in), {});
+    (duo ? *frm2Conversion : *frmConversion).Command1_Click();
+    return FileContents(output);
   };
   // E-01 PSP 60 lies at Duo 150, master 170; A-02 PSP 40 at master 250,
   // below the last tie: Duo 220.

@@ -3,7 +3,6 @@
 #include "events/event_free_depth.h"
 #include "events/event_state.h"
 #include "forms/frm_main.h"
-#include "forms/frm_version.h"
 #include "support/age_files.h"
 
 namespace ostraline {
@@ -68,7 +67,7 @@ TEST_F(AgeModelImport, RowsArePlacedOnTheCompositeAndEfdScales) {
   EXPECT_TRUE(form.mnuAge.Enabled && form.mnuDepth.Enabled && form.Text4.Enabled &&
               form.Label9.Enabled);
   EXPECT_FALSE(form.ProgressBar1.Visible);
-  EXPECT_EQ(frmVersion->Label2(4).Caption.Get(), "01 Jan. 2012");
+  EXPECT_EQ(AgeModelVersion, "01 Jan. 2012");
   // The target at 240 cm, EFD 230: between L-b (190) and L-c (240), 4/5 of the way.
   EXPECT_EQ(form.Text4.Text.Get(), "2800");
   EXPECT_EQ(form.Label7.Caption.Get(), "Age (Hybrid unit)");
@@ -97,9 +96,10 @@ TEST_F(AgeModelImport, HeaderTailNamesTheModelVersion) {
 }
 
 TEST_F(AgeModelImport, FailuresNameTheBoreHoleWhileTheDuoIsClosed) {
-  const std::string unknown =
-      "Error: Bore hole name 'Q' has not been defined. Import parallel correlation model to "
-      "Ostraline Duo.";
+  const auto undefined = [](const std::string& name) {
+    return "Error: Bore hole name '" + name +
+           "' has not been defined. Import parallel correlation model to Ostraline Duo.";
+  };
   auto rows = Points();
   rows[1] = {"L-b", "Q", "---", "---", "200", "20", "2000", "30", "C2", "cal BP", "-"};
   ImportAges(rows);  // given by its depth alone, an unknown name does no harm
@@ -111,16 +111,14 @@ TEST_F(AgeModelImport, FailuresNameTheBoreHoleWhileTheDuoIsClosed) {
     Restart(kFusedLayer);
     rows[1] = bad;
     ImportAges(rows);
-    EXPECT_EQ(OnlyMessage(), unknown);
+    EXPECT_EQ(OnlyMessage(), undefined("Q"));
     ExpectRefused();
   }
 
   // A header tail that is no number fails too, named after the header's cell.
   Restart(kFusedLayer);
   ImportAges(Points(), {"Composite depth (version Mar)"});
-  EXPECT_EQ(OnlyMessage(),
-            "Error: Bore hole name 'Hole' has not been defined. Import parallel correlation model "
-            "to Ostraline Duo.");
+  EXPECT_EQ(OnlyMessage(), undefined("Hole"));
   ExpectRefused();
 
   // With the Duo open the same failures read as a format error.

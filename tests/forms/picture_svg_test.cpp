@@ -40,6 +40,14 @@ std::vector<XmlElement> Drawn(const std::vector<XmlElement>& elements) {
   return drawn;
 }
 
+// The element's name and the named attributes as "name a=1 b=2"; a missing
+// attribute throws.
+std::string Show(const XmlElement& element, const std::vector<std::string>& names) {
+  std::string shown = element.name;
+  for (const std::string& name : names) shown += " " + name + "=" + element.attributes.at(name);
+  return shown;
+}
+
 TEST(PictureSvg, ReplaysOperationsOnTheBitmapsPixelGrid) {
   // 100.03 pixels across: the bitmap rounds up to 101. The box's own scale
   // is in twips.
@@ -68,50 +76,20 @@ TEST(PictureSvg, ReplaysOperationsOnTheBitmapsPixelGrid) {
 
   const std::vector<XmlElement> elements = Read(PictureSvg(picture));
   ASSERT_FALSE(elements.empty());
-  const XmlElement& svg = elements.front();
-  EXPECT_EQ(svg.name, "svg");
-  EXPECT_EQ(svg.attributes.at("xmlns"), "http://www.w3.org/2000/svg");
-  EXPECT_EQ(svg.attributes.at("version"), "1.1");
-  EXPECT_EQ(svg.attributes.at("width"), "101px");
-  EXPECT_EQ(svg.attributes.at("height"), "50px");
-  EXPECT_EQ(svg.attributes.at("viewBox"), "0 0 101 50");
+  EXPECT_EQ(Show(elements.front(), {"xmlns", "version", "width", "height", "viewBox"}),
+            "svg xmlns=http://www.w3.org/2000/svg version=1.1 width=101px height=50px "
+            "viewBox=0 0 101 50");
 
   const std::vector<XmlElement> drawn = Drawn(elements);
   ASSERT_EQ(drawn.size(), 6u);
-  using Attributes = std::map<std::string, std::string>;
-  auto geometry = [](const XmlElement& element, std::vector<std::string> names) {
-    Attributes picked;
-    for (const std::string& name : names) picked[name] = element.attributes.at(name);
-    return picked;
-  };
-  EXPECT_EQ(drawn[0].name, "rect");
-  EXPECT_EQ(geometry(drawn[0], {"x", "y", "width", "height", "fill"}),
-            (Attributes{
-                {"x", "0"}, {"y", "0"}, {"width", "101"}, {"height", "50"}, {"fill", "#f0faff"}}));
-  EXPECT_EQ(drawn[1].name, "rect");
-  EXPECT_EQ(geometry(drawn[1], {"x", "y", "width", "height", "fill"}),
-            (Attributes{
-                {"x", "10"}, {"y", "10"}, {"width", "40"}, {"height", "31"}, {"fill", "#123456"}}));
-  EXPECT_EQ(drawn[2].name, "rect");
-  EXPECT_EQ(
-      geometry(drawn[2], {"x", "y", "width", "height", "fill"}),
-      (Attributes{{"x", "1"}, {"y", "20"}, {"width", "81"}, {"height", "3"}, {"fill", "#ff0000"}}));
-  EXPECT_EQ(drawn[3].name, "line");
-  EXPECT_EQ(geometry(drawn[3], {"x1", "y1", "x2", "y2", "stroke", "stroke-width"}),
-            (Attributes{{"x1", "10.5"},
-                        {"y1", "40.5"},
-                        {"x2", "40.5"},
-                        {"y2", "10.5"},
-                        {"stroke", "#008000"},
-                        {"stroke-width", "2"}}));
-  EXPECT_EQ(drawn[4].name, "circle");
-  EXPECT_EQ(geometry(drawn[4], {"cx", "cy", "r", "fill", "stroke", "stroke-width"}),
-            (Attributes{{"cx", "50.5"},
-                        {"cy", "25.5"},
-                        {"r", "20.033"},
-                        {"fill", "none"},
-                        {"stroke", "#0000ff"},
-                        {"stroke-width", "1"}}));
+  const std::vector<std::string> rect = {"x", "y", "width", "height", "fill"};
+  EXPECT_EQ(Show(drawn[0], rect), "rect x=0 y=0 width=101 height=50 fill=#f0faff");
+  EXPECT_EQ(Show(drawn[1], rect), "rect x=10 y=10 width=40 height=31 fill=#123456");
+  EXPECT_EQ(Show(drawn[2], rect), "rect x=1 y=20 width=81 height=3 fill=#ff0000");
+  EXPECT_EQ(Show(drawn[3], {"x1", "y1", "x2", "y2", "stroke", "stroke-width"}),
+            "line x1=10.5 y1=40.5 x2=40.5 y2=10.5 stroke=#008000 stroke-width=2");
+  EXPECT_EQ(Show(drawn[4], {"cx", "cy", "r", "fill", "stroke", "stroke-width"}),
+            "circle cx=50.5 cy=25.5 r=20.033 fill=none stroke=#0000ff stroke-width=1");
   EXPECT_EQ(drawn[5].attributes.at("fill"), "#ffff00");
 }
 
@@ -131,22 +109,17 @@ TEST(PictureSvg, TextKeepsItsCharactersAndHangsFromItsCorner) {
   box.Print(printed);
   box.FontSize = 7;
   box.Print(printed);
-  const Picture picture = box.Image();
 
-  const std::string svg = PictureSvg(picture);
+  const std::string svg = PictureSvg(box.Image());
   const std::vector<XmlElement> drawn = Drawn(Read(svg));
   ASSERT_EQ(drawn.size(), 3u);
   const XmlElement& text = drawn[1];
-  const XmlElement& small = drawn[2];
-  EXPECT_EQ(text.name, "text");
   EXPECT_EQ(text.text, "Fe & <Ti> \"x\" 'y' \xC2\xB5m  z");
-  EXPECT_EQ(text.attributes.at("xml:space"), "preserve");
-  EXPECT_EQ(text.attributes.at("fill"), "#c80064");
   // 12 points are 16 pixels at 96 to the inch; 7 points print 9 pixels
   // high, as the bitmap's hinted font does.
-  EXPECT_EQ(text.attributes.at("font-size"), "16");
-  EXPECT_EQ(small.attributes.at("font-size"), "9");
-  EXPECT_EQ(text.attributes.at("x"), "20");
+  EXPECT_EQ(Show(text, {"xml:space", "fill", "font-size", "x"}),
+            "text xml:space=preserve fill=#c80064 font-size=16 x=20");
+  EXPECT_EQ(drawn[2].attributes.at("font-size"), "9");
   // The corner is at (20, 30): the baseline lies within the first line
   // below it, lower than most of the font's size.
   const double baseline = std::stod(text.attributes.at("y"));

@@ -141,7 +141,7 @@ TEST(CanvasTest, clsDropsTheWorkingLayerShowsBackColorAndReturnsToTheOrigin) {
   EXPECT_EQ(c.box.Image().ops[0].colour, RGB(170, 170, 170));
 }
 
-TEST(CanvasTest, changeOfScaleLeavesWhatWasDrawnInPlace) {
+TEST(CanvasTest, changeOfScaleLeavesWhatWasDrawnInPlaceAndNoDrawingFails) {
   Column c;
   c.box.ScaleTop = 1000;
   c.box.Line(0, 1250, 7.6f, 1250, kBlack);
@@ -153,25 +153,22 @@ TEST(CanvasTest, changeOfScaleLeavesWhatWasDrawnInPlace) {
   EXPECT_FLOAT_EQ(ops[0].y1, 250.0f * 8715 / 500);
   EXPECT_FLOAT_EQ(ops[0].x2, 915);
   EXPECT_FLOAT_EQ(ops[1].y1, 250.0f * 8715 / 1000);
-}
 
-TEST(CanvasTest, degenerateAndOutOfScaleDrawingNeverFails) {
-  Column c;
   // Equal end points leave one dot.
-  c.box.Line(3, 250, 3, 250, kBlack);
-  ASSERT_EQ(c.box.WorkingOps().size(), 1u);
-  const DrawOp& dot = c.box.WorkingOps()[0];
-  EXPECT_EQ(dot.x1, dot.x2);
-  EXPECT_EQ(dot.y1, dot.y2);
-
-  c.box.CurrentY = 520;
+  c.box.Cls();
+  c.box.Line(3, 2250, 3, 2250, kBlack);
+  ASSERT_EQ(ops.size(), 1u);
+  EXPECT_EQ(ops[0].x1, ops[0].x2);
+  EXPECT_EQ(ops[0].y1, ops[0].y2);
+  // Out of the scale and out of range: nothing drawn, nothing failed.
+  c.box.CurrentY = 3020;
   EXPECT_NO_THROW(c.box.Print("below the scale"));
   c.box.CurrentX = -50;
-  c.box.CurrentY = -50;
+  c.box.CurrentY = 1950;
   EXPECT_NO_THROW(c.box.Print(12.5f));
   EXPECT_NO_THROW(c.box.Circle(1e30f, -1e30f, 0.25f, kBlack));
   EXPECT_NO_THROW(c.box.Line(0, NAN, 7.6f, NAN, kBlack));
-  EXPECT_EQ(c.box.WorkingOps().size(), 1u);
+  EXPECT_EQ(ops.size(), 1u);
 }
 
 // The drawing clears a column with a box over its scale from ScaleTop to

@@ -10,8 +10,6 @@
 #include "events/age_lookup.h"
 #include "events/event_free_depth.h"
 #include "events/event_state.h"
-#include "forms/frm2_main.h"
-#include "forms/frm_export.h"
 #include "forms/frm_main.h"
 #include "forms/frm_select.h"
 #include "proxies/proxy_layout.h"
@@ -70,7 +68,6 @@ TEST_F(ProxyImport, FourLayoutsFromTheirLeadColumns) {
   // A single position: asked on frmSelect, the main form disabled meanwhile.
   Import(0, Positions(9), "Lake cores for_OL.csv");
   FrmMain& form = *frmMain;
-  EXPECT_TRUE(platform.messages.empty()) << OnlyMessage();
   EXPECT_EQ(ProxyFileName(0), "Lake cores");
   EXPECT_EQ(Shape(0), "position, 2 columns, 9 rows");
   EXPECT_FLOAT_EQ(ProxyDepth(0)(1, 9), 109);
@@ -102,7 +99,6 @@ TEST_F(ProxyImport, FourLayoutsFromTheirLeadColumns) {
   // Bore hole, section and PSP: the position is known, the panel drawn at once.
   Import(2, Record("Bore hole,Section,PSP (cm),Density", 8,
                    [](int i) { return "A,1," + std::to_string(10 + 5 * i) + ",1.5"; }));
-  EXPECT_TRUE(platform.messages.empty()) << OnlyMessage();
   EXPECT_EQ(Shape(2), "trinity, 1 columns, 8 rows");
   EXPECT_FLOAT_EQ(ProxyDepth(2)(1, 4), 135);  // PSP 30
   EXPECT_EQ(ProxyLabel(2)(4), "135");
@@ -113,7 +109,8 @@ TEST_F(ProxyImport, FourLayoutsFromTheirLeadColumns) {
   EXPECT_EQ(frmSelect->Text3(1).Text.Get(), "");  // one column: no third cell
 
   // Label, bore hole, section and PSP; a row of an unknown bore hole stays
-  // in the record with what the conversion gives for it.
+  // in the record with what the conversion gives for it. No import asked
+  // anything of the user.
   Import(3, Record("Sample,Bore hole,Section,PSP,Clay,Silt", 8, [](int i) {
            return "G" + std::to_string(i) + (i == 5 ? ",X" : ",A") + ",1," +
                   std::to_string(10 + 5 * i) + ",30,60";
@@ -143,19 +140,20 @@ TEST_F(ProxyImport, HeaderWordsAndTheFirstPlainNumberDecideTheLayout) {
 
   // The scan stops only at a plain number; each of these files is read with
   // another layout or column count than its writer meant.
+  const auto shapeOf = [](const std::string& text) {
+    const ProxyWork work = Recognised(text);
+    return std::pair(work.layout, work.columns);
+  };
   // The first depth written 12.50: the scan runs on to the first value.
-  ProxyWork work = Recognised("Depth,Ti\r\n12.50,3\r\n13,4\r\n14,5\r\n");
-  EXPECT_EQ(work.layout, ProxyLayout::L1);
-  EXPECT_EQ(work.columns, 2);
+  EXPECT_EQ(shapeOf("Depth,Ti\r\n12.50,3\r\n13,4\r\n14,5\r\n"), std::pair(ProxyLayout::L1, 2L));
   // A label that is a plain number in row 2 makes labels and depths L1.
-  work = Recognised("Sample,Depth,Ti\r\nS1,100,5\r\n7,110,6\r\n8,120,7\r\n");
-  EXPECT_EQ(work.layout, ProxyLayout::L1);
-  EXPECT_EQ(work.columns, 3);
+  EXPECT_EQ(shapeOf("Sample,Depth,Ti\r\nS1,100,5\r\n7,110,6\r\n8,120,7\r\n"),
+            std::pair(ProxyLayout::L1, 3L));
   // A first name equal to bore hole 2's letter counts as a hole column.
-  work = Recognised("B,Ti\r\n100,5\r\n110,6\r\n");
-  EXPECT_EQ(work.layout, ProxyLayout::L4);
-  EXPECT_EQ(Recognised("D,Ti\r\n100,5\r\n110,6\r\n").layout, ProxyLayout::L4);
-  EXPECT_EQ(Recognised("C,Ti\r\n100,5\r\n110,6\r\n").layout, ProxyLayout::L1);
+  for (auto [hole, layout] :
+       {std::pair{"B", ProxyLayout::L4}, {"D", ProxyLayout::L4}, {"C", ProxyLayout::L1}}) {
+    EXPECT_EQ(Recognised(std::string(hole) + ",Ti\r\n100,5\r\n110,6\r\n").layout, layout) << hole;
+  }
 
   // The first section written 01: one column too many, and the values of
   // row 1 then meet a label.
@@ -222,8 +220,7 @@ TEST_F(ProxyImport, TheMarkerOfTheFileNameGoesWithItsSeparator) {
 
 constexpr long kGreen = RGB(0, 170, 0);
 
-// The end of an import whose rows hold one plain position (frmSelect), and
-// the export dialog that only says it is not built (frmExport).
+// The end of an import whose rows hold one plain position (frmSelect).
 class AxisSelection : public AgeProgram {
  protected:
   // Panel p as the import leaves it when it asks: one data column, the
@@ -373,29 +370,6 @@ TEST_F(AxisSelection, CellsCanBeLookedAtButNotEdited) {
     move();
     EXPECT_EQ(platform.MousePointer(), 0);
   }
-}
-
-TEST_F(AxisSelection, ExportSaysItIsNotBuiltAndGivesTheMainFormsBack) {
-  frmMain->Enabled = false;
-  frm2Main->Enabled = false;
-  frmExport->Label1.Caption = "3";
-  frmExport->Command1.Click();
-  ASSERT_EQ(platform.messages.size(), 1u);
-  EXPECT_EQ(platform.messages[0].text, "Sorry, this function is under construction.");
-  EXPECT_EQ(platform.messages[0].title, "Ostraline");
-  EXPECT_EQ(platform.messages[0].icon, MsgIcon::None);
-  EXPECT_TRUE(frmMain->Enabled);
-  EXPECT_TRUE(frm2Main->Enabled);
-  EXPECT_FALSE(frmExport.IsLoaded());
-
-  // Closing the dialog gives the forms back too, and loads no Duo form.
-  frm2Main.Unload();
-  frmMain->Enabled = false;
-  frmExport->Label1.Caption = "0";
-  frmExport.Unload();
-  EXPECT_TRUE(frmMain->Enabled);
-  EXPECT_FALSE(frm2Main.IsLoaded());
-  EXPECT_EQ(platform.messages.size(), 1u);
 }
 
 }  // namespace

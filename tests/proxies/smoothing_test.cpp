@@ -4,6 +4,7 @@
 #include <limits>
 #include <optional>
 #include <set>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -20,15 +21,12 @@ namespace {
 
 constexpr long kRed = 255;
 using Overlay = void (*)(const ProxyRecords&, PictureBox&, int, long, long);
-// One window's overlay on the master's panel p.
-struct Smoother {
-  Overlay draw;
-  Smoother(Overlay d) : draw(d) {}  // NOLINT: the lists name the overlays bare
-  void operator()(int p, long first, long hidden = std::numeric_limits<long>::max()) const {
-    draw(masterProxies, frmMain->Picture1(p), p, first, hidden);
-  }
-};
 constexpr long kNothingHidden = std::numeric_limits<long>::max();
+
+// One window's overlay on the master's panel p.
+void Smooth(Overlay draw, int p, long first, long hidden = kNothingHidden) {
+  draw(masterProxies, frmMain->Picture1(p), p, first, hidden);
+}
 
 class Smoothing : public FreshProgram {
  protected:
@@ -86,7 +84,7 @@ class Smoothing : public FreshProgram {
 
 TEST_F(Smoothing, GuardsAndTableEndsDecideWhetherAnOverlayIsDrawn) {
   struct Case {
-    Smoother smooth;
+    Overlay smooth;
     long rows;
     bool fails;
     std::size_t segments;
@@ -103,7 +101,7 @@ TEST_F(Smoothing, GuardsAndTableEndsDecideWhetherAnOverlayIsDrawn) {
   for (const Case& c : cases) {
     SCOPED_TRACE(testing::Message() << c.rows << " rows, case " << (&c - cases));
     LoadLinear(2, c.rows);
-    const auto failure = FailureOf([&] { c.smooth(2, 0, kNothingHidden); });
+    const auto failure = FailureOf([&] { Smooth(c.smooth, 2, 0); });
     EXPECT_EQ(failure, c.fails ? std::optional(FailureKind::SubscriptOutOfRange) : std::nullopt);
     EXPECT_EQ(Segments(2).size(), c.segments);
     for (const DrawOp& op : Segments(2)) EXPECT_EQ(op.drawWidth, 2);
@@ -114,17 +112,17 @@ TEST_F(Smoothing, GuardsAndTableEndsDecideWhetherAnOverlayIsDrawn) {
 
   // The even window is centred half a row above i; the last row enters no mean.
   LoadLinear(2, 209);
-  Smoother{SmoothProxy208}(2, 0);
+  Smooth(SmoothProxy208, 2, 0);
   EXPECT_EQ(Ends(2), (std::vector<std::array<float, 4>>{{104.5f, 209, 105.5f, 211}}));
   LoadLinear(2, 30);
-  Smoother{SmoothProxy3}(2, 0);
+  Smooth(SmoothProxy3, 2, 0);
   EXPECT_EQ(Segments(2).front().ux1, 2.0f);
   EXPECT_EQ(Segments(2).back().ux2, 28.0f);
 }
 
 TEST_F(Smoothing, StartsAtTheFirstRowOfTheView) {
   LoadLinear(0, 500);
-  Smoother{SmoothProxy11}(0, 400);
+  Smooth(SmoothProxy11, 0, 400);
   EXPECT_EQ(Segments(0).size(), 94u);
   EXPECT_EQ(Segments(0).front().ux1, 400.0f);
   EXPECT_EQ(Segments(0).front().uy1, 800.0f);
@@ -132,19 +130,18 @@ TEST_F(Smoothing, StartsAtTheFirstRowOfTheView) {
   // The first mean reaches back to row 395, not further.
   ProxyPlot(0, 394) = 9999;
   frmMain->Picture1(0).Cls();
-  Smoother{SmoothProxy11}(0, 400);
+  Smooth(SmoothProxy11, 0, 400);
   EXPECT_EQ(*RowsDrawn(0).begin(), 400);
   ProxyPlot(0, 395) = 9999;
   frmMain->Picture1(0).Cls();
-  Smoother{SmoothProxy11}(0, 400);
+  Smooth(SmoothProxy11, 0, 400);
   EXPECT_EQ(*RowsDrawn(0).begin(), 401);
 
   // Below the lowest first row, the overlay starts at its first full window.
-  const std::pair<Smoother, Single> firstMeans[] = {{SmoothProxy11, 6.0f},
-                                                    {SmoothProxy208, 104.5f}};
+  const std::pair<Overlay, Single> firstMeans[] = {{SmoothProxy11, 6.0f}, {SmoothProxy208, 104.5f}};
   for (auto [smooth, first] : firstMeans) {
     LoadLinear(0, 500);
-    smooth(0, 1, kNothingHidden);
+    Smooth(smooth, 0, 1);
     EXPECT_EQ(Segments(0).front().ux1, first);
   }
 }
@@ -157,30 +154,21 @@ TEST_F(Smoothing, BadRowsTakeOutTheSegmentsThatTestThem) {
     }
     return rows;
   };
-  LoadLinear(4, 40);
-  Smoother{SmoothProxy5}(4, 0);
-  EXPECT_EQ(RowsDrawn(4), allBut(0, 0));
-
+  const auto rowsDrawnWith = [&](const std::function<void()>& spoil) {
+    LoadLinear(4, 40);
+    spoil();
+    Smooth(SmoothProxy5, 4, 0);
+    return RowsDrawn(4);
+  };
+  EXPECT_EQ(rowsDrawnWith([] {}), allBut(0, 0));
   // A row without a value: the window and one segment more.
-  LoadLinear(4, 40);
-  ProxyPlot(0, 20) = -9999;
-  Smoother{SmoothProxy5}(4, 0);
-  EXPECT_EQ(RowsDrawn(4), allBut(17, 22));
-
+  EXPECT_EQ(rowsDrawnWith([] { ProxyPlot(0, 20) = -9999; }), allBut(17, 22));
   // Equal depths are no reversal.
-  LoadLinear(4, 40);
-  ProxyDepth(4)(1, 20) = ProxyDepth(4)(1, 19);
-  Smoother{SmoothProxy5}(4, 0);
-  EXPECT_EQ(RowsDrawn(4), allBut(0, 0));
-
+  EXPECT_EQ(rowsDrawnWith([] { ProxyDepth(4)(1, 20) = ProxyDepth(4)(1, 19); }), allBut(0, 0));
   // A depth of 9999 is no gap by itself, only by the fall to the next row,
   // so the segment before the fall takes it into its mean.
-  LoadLinear(4, 40);
-  ProxyDepth(4)(1, 20) = 9999;
-  Smoother{SmoothProxy5}(4, 0);
-  EXPECT_EQ(RowsDrawn(4), allBut(18, 22));
-  const DrawOp before = Segments(4)[17 - 3];
-  EXPECT_EQ(before.uy2, (32.0f + 34 + 36 + 38 + 9999) / 5);
+  EXPECT_EQ(rowsDrawnWith([] { ProxyDepth(4)(1, 20) = 9999; }), allBut(18, 22));
+  EXPECT_EQ(Segments(4)[17 - 3].uy2, (32.0f + 34 + 36 + 38 + 9999) / 5);
 }
 
 TEST_F(Smoothing, MeansAreSinglePrecisionInTheirOrderOfAdditions) {
@@ -192,16 +180,14 @@ TEST_F(Smoothing, MeansAreSinglePrecisionInTheirOrderOfAdditions) {
 
   // Window 11 at i = 11: rows 7 to 16 once, then row 6 for the start and
   // row 17 for the end. Here the plain order from row 6 gives other bits.
-  Smoother{SmoothProxy11}(1, 0);
+  Smooth(SmoothProxy11, 1, 0);
   Single sharedX = 0;
   Single sharedY = 0;
+  Single plainX = value(6);
+  Single plainY = depth(6);
   for (long k = 7; k <= 16; ++k) {
     sharedX += value(k);
     sharedY += depth(k);
-  }
-  Single plainX = 0;
-  Single plainY = 0;
-  for (long k = 6; k <= 16; ++k) {
     plainX += value(k);
     plainY += depth(k);
   }
@@ -215,7 +201,7 @@ TEST_F(Smoothing, MeansAreSinglePrecisionInTheirOrderOfAdditions) {
 
   // Window 3 at i = 6 adds from the top row down.
   frmMain->Picture1(1).Cls();
-  Smoother{SmoothProxy3}(1, 0);
+  Smooth(SmoothProxy3, 1, 0);
   const Single downwards = value(5) + value(6) + value(7);
   ASSERT_NE(downwards / 3, (value(7) + value(6) + value(5)) / 3);
   EXPECT_EQ(Segments(1).at(6 - 2).ux1, downwards / 3);
@@ -249,18 +235,19 @@ TEST_F(Smoothing, LeavingOutRowsBelowTheViewChangesNothingDrawn) {
   while (hidden > 1 && ProxyDepth(3)(1, hidden - 1) > limit) --hidden;
   ASSERT_EQ(hidden, 241);
 
-  for (Smoother smooth : {SmoothProxy3, SmoothProxy5, SmoothProxy11, SmoothProxy208}) {
+  for (Overlay smooth : {SmoothProxy3, SmoothProxy5, SmoothProxy11, SmoothProxy208}) {
     for (long first : {0L, 120L}) {
       panel.Cls();
-      smooth(3, first, rows + 1);
+      Smooth(smooth, 3, first, rows + 1);
       const auto plain = Ends(3);
       panel.Cls();
-      smooth(3, first, hidden);
+      Smooth(smooth, 3, first, hidden);
       ASSERT_FALSE(plain.empty());
       EXPECT_EQ(Ends(3), plain);
     }
     // The first pass runs whatever lies below the view, and fails past the end.
-    EXPECT_EQ(FailureOf([&] { smooth(3, rows - 1, hidden); }), FailureKind::SubscriptOutOfRange);
+    EXPECT_EQ(FailureOf([&] { Smooth(smooth, 3, rows - 1, hidden); }),
+              FailureKind::SubscriptOutOfRange);
   }
 }
 
@@ -268,19 +255,26 @@ using PanelMenus = FreshProgram;
 
 TEST_F(PanelMenus, OneSmoothingEntryAtATimeOnEachPanelAndTheirCheckMarks) {
   FrmMain& form = *frmMain;
+  // The windows whose entry is checked on panel p.
   auto checked = [&form](int p) {
-    return std::vector<bool>{form.mnuFlat3_(p).Checked, form.mnuFlat5_(p).Checked,
-                             form.mnuFlat11_(p).Checked, form.mnuFlat208_(p).Checked};
+    std::string windows;
+    const std::pair<ControlArray<Menu>*, const char*> entries[] = {
+        {&form.mnuFlat3_, "3 "}, {&form.mnuFlat5_, "5 "}, {&form.mnuFlat11_, "11 "},
+        {&form.mnuFlat208_, "208 "}};
+    for (auto [entry, window] : entries) {
+      if ((*entry)(p).Checked) windows += window;
+    }
+    return windows;
   };
   form.mnuFlat3_(1).Click();
-  EXPECT_EQ(checked(1), (std::vector<bool>{true, false, false, false}));
+  EXPECT_EQ(checked(1), "3 ");
   form.mnuFlat5_(1).Click();
-  EXPECT_EQ(checked(1), (std::vector<bool>{false, true, false, false}));
+  EXPECT_EQ(checked(1), "5 ");
   form.mnuFlat208_(2).Click();
-  EXPECT_EQ(checked(1), (std::vector<bool>{false, true, false, false}));
-  EXPECT_EQ(checked(2), (std::vector<bool>{false, false, false, true}));
+  EXPECT_EQ(checked(1), "5 ");
+  EXPECT_EQ(checked(2), "208 ");
   form.mnuFlat5_(1).Click();
-  EXPECT_EQ(checked(1), (std::vector<bool>{false, false, false, false}));
+  EXPECT_EQ(checked(1), "");
 
   // The drawing entries' check marks.
   form.mnuLine(3).Click();
@@ -320,7 +314,9 @@ TEST_F(PanelMenus, CopyTakesTheCommittedPictureWithoutTheTargetLine) {
   EXPECT_EQ(platform.clipboard->width, panel.InnerWidth());
 }
 
-TEST_F(PanelMenus, ExportOpensTheDialogForThePanelAndDisablesTheMainForms) {
+// The export of a panel's record is not built: the dialog says so and gives
+// both main forms back, and never loads a Duo form that is not open.
+TEST_F(PanelMenus, ExportDialogSaysItIsNotBuiltAndGivesTheMainFormsBack) {
   FrmMain& form = *frmMain;
   platform.SetMousePointer(2);
   form.mnuExport_(4).Click();
@@ -329,15 +325,23 @@ TEST_F(PanelMenus, ExportOpensTheDialogForThePanelAndDisablesTheMainForms) {
   EXPECT_EQ(frmExport->Label1.Caption.Get(), "4");
   EXPECT_FALSE(form.Enabled);
   EXPECT_EQ(platform.MousePointer(), 0);
-  // A Duo form that is not open is not loaded for this.
-  EXPECT_FALSE(frm2Main.IsLoaded());
   frmExport.Unload();
   EXPECT_TRUE(form.Enabled);
+  EXPECT_FALSE(frm2Main.IsLoaded());
 
   frm2Main->Show();
   form.mnuExport_(0).Click();
   EXPECT_EQ(frmExport->Label1.Caption.Get(), "0");
   EXPECT_FALSE(frm2Main->Enabled);
+  EXPECT_TRUE(platform.messages.empty());
+  frmExport->Command1.Click();
+  ASSERT_EQ(platform.messages.size(), 1u);
+  EXPECT_EQ(platform.messages[0].text, "Sorry, this function is under construction.");
+  EXPECT_EQ(platform.messages[0].title, "Ostraline");
+  EXPECT_EQ(platform.messages[0].icon, MsgIcon::None);
+  EXPECT_TRUE(form.Enabled);
+  EXPECT_TRUE(frm2Main->Enabled);
+  EXPECT_FALSE(frmExport.IsLoaded());
 }
 
 }  // namespace

@@ -2,34 +2,34 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "runtime/failure.h"
 #include "support/failures.h"
+#include "support/model_files.h"
 
 namespace ostraline {
 namespace {
 
 constexpr std::optional<FailureKind> kPastEnd = FailureKind::InputPastEnd;
 
+using Rows = std::vector<std::vector<std::string>>;
+using Texts = std::vector<std::string>;
+
 // Reads rows of the given number of text fields while the end-of-file test
 // between rows allows, as every import does.
-std::vector<std::vector<std::string>> ReadRows(const std::string& content, int fields) {
+Rows ReadRows(const std::string& content, int fields) {
   FieldReader reader(content);
-  std::vector<std::vector<std::string>> rows;
+  Rows rows;
   while (!reader.Eof()) {
     std::vector<std::string>& row = rows.emplace_back();
     for (int f = 0; f < fields; ++f) row.push_back(reader.ReadText());
   }
   return rows;
 }
-
-using Rows = std::vector<std::vector<std::string>>;
-using Texts = std::vector<std::string>;
 
 // Every field of the content read by `read` until the end-of-file test says so.
 template <class T>
@@ -50,28 +50,23 @@ Texts Variants(const std::string& content) {
   return described;
 }
 
-TEST(FieldReaderTest, quotedFieldsHoldCommasAndLineEnds) {
-  EXPECT_EQ(
-      ReadAll("\"a,b\",\"line\r\nbreak\",\"x\ny\"\r\n\"\",\"q\"  ,z\n", &FieldReader::ReadText),
-      (Texts{"a,b", "line\r\nbreak", "x\ny", "", "q", "z"}));
-  // What stands between the closing quote and the delimiter is skipped.
-  EXPECT_EQ(ReadAll("\"ab\"cd,e\r\n\"f\" g h\r\ni\r\n", &FieldReader::ReadText),
-            (Texts{"ab", "e", "f", "i"}));
-  // A quote inside an unquoted field is data; an unclosed quote runs to the end.
-  EXPECT_EQ(ReadAll("ab\"c,\"open,to\nthe end", &FieldReader::ReadText),
-            (Texts{"ab\"c", "open,to\nthe end"}));
-}
-
-TEST(FieldReaderTest, emptyFieldsAndWhatStandsAheadOfAField) {
-  EXPECT_EQ(ReadAll("a,,b,\"\",c\r\n", &FieldReader::ReadText), (Texts{"a", "", "b", "", "c"}));
-  EXPECT_EQ(ReadAll("1.5,,2,abc\r\n", &FieldReader::ReadSingle),
-            (std::vector<float>{1.5f, 0, 2, 0}));
-  // Blanks, tabs and line ends ahead of a field are skipped; blanks inside stay.
-  EXPECT_EQ(ReadAll("  \t a b ,\t\r\n\r\n  c\n\n\n\"d\"", &FieldReader::ReadText),
-            (Texts{"a b ", "c", "d"}));
-  // A comma before a line end gives no empty field: the line end stands ahead
-  // of the next field and is skipped.
-  EXPECT_EQ(ReadAll("a,\r\nb\r\n", &FieldReader::ReadText), (Texts{"a", "b"}));
+TEST(FieldReaderTest, quotesEmptyFieldsAndWhatStandsAheadOfAField) {
+  const std::pair<const char*, Texts> cases[] = {
+      {"\"a,b\",\"line\r\nbreak\",\"x\ny\"\r\n\"\",\"q\"  ,z\n",
+       {"a,b", "line\r\nbreak", "x\ny", "", "q", "z"}},
+      // What stands between the closing quote and the delimiter is skipped.
+      {"\"ab\"cd,e\r\n\"f\" g h\r\ni\r\n", {"ab", "e", "f", "i"}},
+      // A quote inside an unquoted field is data; an unclosed quote runs to the end.
+      {"ab\"c,\"open,to\nthe end", {"ab\"c", "open,to\nthe end"}},
+      {"a,,b,\"\",c\r\n", {"a", "", "b", "", "c"}},
+      // Blanks, tabs and line ends ahead of a field are skipped; blanks inside stay.
+      {"  \t a b ,\t\r\n\r\n  c\n\n\n\"d\"", {"a b ", "c", "d"}},
+      // A comma before a line end gives no empty field: the line end stands
+      // ahead of the next field and is skipped.
+      {"a,\r\nb\r\n", {"a", "b"}}};
+  for (const auto& [content, fields] : cases) {
+    EXPECT_EQ(ReadAll(content, &FieldReader::ReadText), fields) << content;
+  }
 }
 
 TEST(FieldReaderTest, fieldsIgnoreWhereLinesEnd) {
@@ -92,6 +87,7 @@ TEST(FieldReaderTest, readingPastTheLastFieldFails) {
   EXPECT_EQ(FailureOf([&] { reader.ReadText(); }), kPastEnd);
   EXPECT_EQ(FailureOf([&] { reader.ReadSingle(); }), kPastEnd);
   EXPECT_EQ(FailureOf([&] { reader.ReadVariant(); }), kPastEnd);
+
   EXPECT_EQ(FailureOf([] { FieldReader("").ReadText(); }), kPastEnd);
   FieldReader comma("1,");
   comma.ReadText();
@@ -131,55 +127,44 @@ TEST(FieldReaderTest, singleAndVariantTargets) {
 
 TEST(FieldReaderTest, openReadsTheFileAsItIs) {
   EXPECT_THROW(FieldReader::Open("/nonexistent/folder/model.csv"), RuntimeFailure);
-  const std::filesystem::path path =
-      std::filesystem::path(testing::TempDir()) / "field_reader_open_test.csv";
-  {
-    std::ofstream out(path, std::ios::binary);
-    out << "\"x\",1.25\r\n";
-    out.put('\0');
-    out << "y,2\r\n";
-  }
-  FieldReader reader = FieldReader::Open(path.string());
+  FieldReader reader =
+      FieldReader::Open(WriteTempFile("open.csv", std::string("\"x\",1.25\r\n\0y,2\r\n", 16)));
   EXPECT_EQ(reader.ReadText(), "x");
   EXPECT_EQ(reader.ReadSingle(), 1.25f);
   EXPECT_EQ(reader.ReadText(), std::string("\0y", 2));
   EXPECT_EQ(reader.ReadSingle(), 2.0f);
   EXPECT_TRUE(reader.Eof());
-  std::filesystem::remove(path);
 }
 
 // A file read a chunk at a time gives what the whole text gives: every field,
 // its place, the end-of-file test and the line of a failure, whatever the
 // size of the chunks and wherever they cut a field or a line end.
 TEST(FieldReaderTest, aFileReadInChunksReadsAsTheWholeText) {
-  const std::filesystem::path path =
-      std::filesystem::path(testing::TempDir()) / "field_reader_chunks_test.csv";
   std::mt19937 draw(20261123);
   const char alphabet[] = {'a', '1', '.', ',', ',', '"', ' ', '\t', '\r', '\n', '\n'};
   for (int round = 0; round < 300; ++round) {
     std::string content;
     const int length = static_cast<int>(draw() % 60);
     for (int i = 0; i < length; ++i) content += alphabet[draw() % sizeof alphabet];
-    std::ofstream(path, std::ios::binary) << content;
+    const std::string path = WriteTempFile("chunks.csv", content);
     for (std::size_t chunk : {1u, 2u, 3u, 7u}) {
+      SCOPED_TRACE(content + " chunk " + std::to_string(chunk));
       FieldReader whole(content);
-      FieldReader chunked = FieldReader::Open(path.string(), chunk);
+      FieldReader chunked = FieldReader::Open(path, chunk);
       while (true) {
-        ASSERT_EQ(whole.Eof(), chunked.Eof()) << content;
+        ASSERT_EQ(whole.Eof(), chunked.Eof());
         std::string wholeText;
         std::string chunkedText;
         const auto wholeField = FailureOf([&] { wholeText = whole.ReadText(); });
-        const auto chunkedField = FailureOf([&] { chunkedText = chunked.ReadText(); });
-        ASSERT_EQ(wholeField, chunkedField) << content;
-        ASSERT_EQ(wholeText, chunkedText) << content << " chunk " << chunk;
-        ASSERT_EQ(whole.Line(), chunked.Line()) << content << " chunk " << chunk;
+        ASSERT_EQ(wholeField, FailureOf([&] { chunkedText = chunked.ReadText(); }));
+        ASSERT_EQ(wholeText, chunkedText);
+        ASSERT_EQ(whole.Line(), chunked.Line());
         if (wholeField) break;
-        ASSERT_EQ(whole.LastPlace().line, chunked.LastPlace().line) << content;
-        ASSERT_EQ(whole.LastPlace().field, chunked.LastPlace().field) << content;
+        ASSERT_EQ(whole.LastPlace().line, chunked.LastPlace().line);
+        ASSERT_EQ(whole.LastPlace().field, chunked.LastPlace().field);
       }
     }
   }
-  std::filesystem::remove(path);
 }
 
 TEST(FieldWriterTest, textQuotedNumbersBareRowsEndInCrLf) {
@@ -197,8 +182,9 @@ TEST(FieldWriterTest, textQuotedNumbersBareRowsEndInCrLf) {
   EXPECT_EQ(writer.Content(), "\"A-01\",12.5,,0.1,\"7\",-0.25\r\n1E-05,\"\"\r\n");
 
   // What is written reads back field by field.
-  EXPECT_EQ(Variants(std::string(writer.Content())), (Texts{"text A-01", "number 12.5", "empty", "number 0.1",
-                                               "text 7", "number -0.25", "number 1E-05", "text "}));
+  EXPECT_EQ(Variants(std::string(writer.Content())),
+            (Texts{"text A-01", "number 12.5", "empty", "number 0.1", "text 7", "number -0.25",
+                   "number 1E-05", "text "}));
 }
 
 }  // namespace

@@ -31,18 +31,10 @@ struct Reference {
   bool IsText() const { return value.index() == 4; }
   bool IsNumber() const { return IsWhole() || IsSingle() || IsDouble(); }
   double ToDouble() const {
-    switch (value.index()) {
-      case 1:
-        return std::get<std::int32_t>(value);
-      case 2:
-        return std::get<float>(value);
-      case 3:
-        return std::get<double>(value);
-      case 4:
-        return CDbl(std::get<std::string>(value));
-      default:
-        return 0.0;
-    }
+    if (IsWhole()) return std::get<std::int32_t>(value);
+    if (IsSingle()) return std::get<float>(value);
+    if (IsDouble()) return std::get<double>(value);
+    return IsText() ? CDbl(std::get<std::string>(value)) : 0.0;
   }
   float ToSingle() const {
     if (IsSingle()) return std::get<float>(value);
@@ -50,18 +42,10 @@ struct Reference {
     return CSng(ToDouble());
   }
   std::string ToText() const {
-    switch (value.index()) {
-      case 1:
-        return Str(static_cast<long long>(std::get<std::int32_t>(value)));
-      case 2:
-        return Str(std::get<float>(value));
-      case 3:
-        return Str(std::get<double>(value));
-      case 4:
-        return std::get<std::string>(value);
-      default:
-        return {};
-    }
+    if (IsWhole()) return Str(static_cast<long long>(std::get<std::int32_t>(value)));
+    if (IsSingle()) return Str(std::get<float>(value));
+    if (IsDouble()) return Str(std::get<double>(value));
+    return IsText() ? std::get<std::string>(value) : std::string();
   }
   double TextValue() const { return Val(ToText()); }
 };
