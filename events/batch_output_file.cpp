@@ -1,6 +1,7 @@
 #include "events/batch_output_file.h"
 
 #include <fcntl.h>
+#include <pthread.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -67,10 +68,22 @@ std::string FolderOf(const std::string& target) {
 ReplacementFile::ReplacementFile(std::string target) : target_(ResolvedTarget(target)) {
   // A short name in the target's folder, whatever the length of the target's.
   std::string name = FolderOf(target_) + "/.ostraline-XXXXXX";
+  // An ending signal that comes between the making of the file and the
+  // watch waits for the watch, which then removes the file.
+  sigset_t ending;
+  sigset_t before;
+  sigemptyset(&ending);
+  for (const int signal : kEndingSignals) sigaddset(&ending, signal);
+  pthread_sigmask(SIG_BLOCK, &ending, &before);
   const int descriptor = mkstemp(name.data());
-  if (descriptor < 0) FailWith("cannot write in the folder of " + target_);
+  const int error = errno;
+  if (descriptor >= 0) WatchSignals(name);
+  pthread_sigmask(SIG_SETMASK, &before, nullptr);
+  if (descriptor < 0) {
+    errno = error;
+    FailWith("cannot write in the folder of " + target_);
+  }
   temporary_ = name;
-  WatchSignals(temporary_);
   file_ = fdopen(descriptor, "wb");
   if (file_ == nullptr) {
     close(descriptor);
