@@ -4,6 +4,7 @@
 // row of a batch or at every move of the pointer read these instead of
 // parsing the same cells again. Where a cell is no number the lookups read
 // the text as before, so that the same failure happens at the same place.
+#include <array>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -140,8 +141,12 @@ struct ScaleRows {
   std::vector<Single> holeDepth;  // row * 4 + hole - 1
   std::vector<double> holeDepthVal;
   std::vector<char> closes;
+  std::vector<char> opens;
+  std::vector<char> pins;
   std::vector<Single> tieDepth;
   std::vector<char> gap;
+  std::vector<unsigned char> kindHoles;  // bit h: the row's splice cell names bore hole h
+  std::array<std::string, 4> holeNames;  // as they stood, for kindHoles
 };
 
 struct DerivedTables {

@@ -14,6 +14,15 @@ bool IsGap(const std::string& kind) {
   return head3 == "Gap" || head3 == "gap" || head4 == "Void" || head4 == "void";
 }
 
+// The names are compared as they stand: a repaint reads them through
+// accesses that count as writes.
+bool NamesStand(const BoreHoleSet& set, const ScaleRows& rows) {
+  for (int hole = 1; hole <= 4; ++hole) {
+    if (rows.holeNames[hole - 1] != set.HoleName(hole)) return false;
+  }
+  return true;
+}
+
 }  // namespace
 
 const ScaleRows& RowsOnScale(const BoreHoleSet& set, int scale) {
@@ -23,7 +32,8 @@ const ScaleRows& RowsOnScale(const BoreHoleSet& set, int scale) {
   const long last = set.LastRow;
   if (rows.built && rows.scale == scale && rows.lastRow == last &&
       rows.modelScale == model.Revision(scale) && rows.modelLabels == model.Revision(0) &&
-      rows.tieScale == ties.Revision(scale) && rows.tieKinds == ties.Revision(0)) {
+      rows.tieScale == ties.Revision(scale) && rows.tieKinds == ties.Revision(0) &&
+      NamesStand(set, rows)) {
     return rows;
   }
   rows = ScaleRows{};
@@ -31,23 +41,32 @@ const ScaleRows& RowsOnScale(const BoreHoleSet& set, int scale) {
   rows.holeDepth.resize(count * 4);
   rows.holeDepthVal.resize(count * 4);
   rows.closes.resize(count * 4);
+  rows.opens.resize(count * 4);
+  rows.pins.resize(count * 4);
   rows.tieDepth.resize(count);
   rows.gap.resize(count);
+  rows.kindHoles.resize(count);
   for (long r = 0; r <= last; ++r) {
     rows.tieDepth[r] = CellNumber(ties(scale, r));
-    rows.gap[r] = IsGap(ties(0, r)) ? 1 : 0;
+    const std::string& kind = ties(0, r);
+    rows.gap[r] = IsGap(kind) ? 1 : 0;
     for (int hole = 1; hole <= 4; ++hole) {
       const std::size_t slot = static_cast<std::size_t>(r) * 4 + static_cast<std::size_t>(hole - 1);
       const std::string& depth = model(scale, hole, 2, r);
       rows.holeDepth[slot] = CellNumber(depth);
       rows.holeDepthVal[slot] = Val(depth);
-      rows.closes[slot] = IsSectionBottom(model(0, hole, 0, r)) ? 1 : 0;
+      const std::string& label = model(0, hole, 0, r);
+      rows.closes[slot] = IsSectionBottom(label) ? 1 : 0;
+      rows.opens[slot] = IsSectionTop(label) ? 1 : 0;
+      rows.pins[slot] = IsPin(label) ? 1 : 0;
+      if (kind == set.HoleName(hole)) rows.kindHoles[r] |= static_cast<unsigned char>(1U << hole);
     }
   }
   rows.modelScale = model.Revision(scale);
   rows.modelLabels = model.Revision(0);
   rows.tieScale = ties.Revision(scale);
   rows.tieKinds = ties.Revision(0);
+  for (int hole = 1; hole <= 4; ++hole) rows.holeNames[hole - 1] = set.HoleName(hole);
   rows.lastRow = last;
   rows.scale = scale;
   rows.built = true;
@@ -69,14 +88,6 @@ const std::string& ModelRows::Label(int hole, long row) const {
   return set_.ModelCell(0, hole, 0, row);
 }
 
-bool ModelRows::OpensSection(int hole, long row) const {
-  return IsSectionTop(Label(hole, row));
-}
-
-bool ModelRows::IsPinRow(int hole, long row) const {
-  return IsPin(Label(hole, row));
-}
-
 long ModelRows::NextSectionStart(int hole, long row) const {
   long next = row + 1;
   while (next < lastRow_ && !OpensSection(hole, next)) ++next;
@@ -85,17 +96,6 @@ long ModelRows::NextSectionStart(int hole, long row) const {
 
 const std::string& ModelRows::Kind(long row) const {
   return set_.TieCell(0, row);
-}
-
-bool ModelRows::KindNames(int hole, long row) const {
-  return Kind(row) == set_.HoleName(hole);
-}
-
-bool ModelRows::KindNamesAnyHole(long row) const {
-  for (int hole = 1; hole <= 4; ++hole) {
-    if (KindNames(hole, row)) return true;
-  }
-  return false;
 }
 
 }  // namespace ostraline

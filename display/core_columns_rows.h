@@ -26,9 +26,9 @@ class ModelRows {
   double Psp(int hole, long row) const;
   // ModelCell(0, hole, 0, row): the lamina label, and what it marks.
   const std::string& Label(int hole, long row) const;
-  bool OpensSection(int hole, long row) const;
+  bool OpensSection(int hole, long row) const { return rows_.opens[Slot(hole, row)] != 0; }
   bool ClosesSection(int hole, long row) const { return rows_.closes[Slot(hole, row)] != 0; }
-  bool IsPinRow(int hole, long row) const;
+  bool IsPinRow(int hole, long row) const { return rows_.pins[Slot(hole, row)] != 0; }
   // The first row after this one that opens a section, or the last row.
   long NextSectionStart(int hole, long row) const;
 
@@ -39,8 +39,12 @@ class ModelRows {
   const std::string& Kind(long row) const;
   bool KindIsGap(long row) const { return rows_.gap[static_cast<std::size_t>(row)] != 0; }
   // Whether Kind(row) equals HoleName(hole), and whether it equals any of them.
-  bool KindNames(int hole, long row) const;
-  bool KindNamesAnyHole(long row) const;
+  bool KindNames(int hole, long row) const {
+    return (rows_.kindHoles[static_cast<std::size_t>(row)] >> hole & 1U) != 0;
+  }
+  bool KindNamesAnyHole(long row) const {
+    return rows_.kindHoles[static_cast<std::size_t>(row)] != 0;
+  }
 
  private:
   std::size_t Slot(int hole, long row) const {

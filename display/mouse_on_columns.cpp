@@ -30,8 +30,10 @@ std::string Rounded(double depth) {
 }
 
 // The hit tests compare squares: 0.2 % of the view span around a row or the centre.
-bool Near(const BoreHoleSet& set, double a, double b) {
-  const double tolerance = static_cast<double>(ViewSpanOf(set)) * 0.002;
+double Tolerance(const BoreHoleSet& set) {
+  return static_cast<double>(ViewSpanOf(set)) * 0.002;
+}
+bool Near(double tolerance, double a, double b) {
   return (a - b) * (a - b) < tolerance * tolerance;
 }
 
@@ -51,9 +53,10 @@ void ShowRows(MainForm& form, int index, Single y) {
   const BoreHoleSet& set = SetOf(form);
   if (index < 1 || index > 4) return;
   const ScaleRows& rows = RowsOnScale(set, ColumnScaleOf(set));
+  const double tolerance = Tolerance(set);
   for (long row = 1; row <= set.LastRow; ++row) {
     const double depth = rows.holeDepthVal[static_cast<std::size_t>(row) * 4 + (index - 1)];
-    if (Near(set, depth, y)) {
+    if (Near(tolerance, depth, y)) {
       form.BoreHole(index).ToolTipText =
           set.ModelCell(0, index, 0, row) + " (" + set.ModelCell(0, index, 1, row) + " cm)";
     }
@@ -159,7 +162,8 @@ void MouseMoveProcedure(BoreHoleSet& set, int Index, int /*Button*/, int /*Shift
     ShowAgePoints(form, Index, X, depth);
     if (Index == 5) return;
     ShowRows(form, Index, Y);
-    if (Near(set, Y, form.BoreHole(1).ScaleTop + static_cast<double>(ViewSpanOf(set)) / 2))
+    if (Near(Tolerance(set), Y,
+             form.BoreHole(1).ScaleTop + static_cast<double>(ViewSpanOf(set)) / 2))
       TakeBrackets(set, Index, depth);
   } catch (const RuntimeFailure&) {
     // The pointer moves on; the tool tip keeps what it had.
