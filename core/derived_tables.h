@@ -145,8 +145,9 @@ struct ScaleRows {
   std::vector<char> pins;
   std::vector<Single> tieDepth;
   std::vector<char> gap;
-  std::vector<unsigned char> kindHoles;  // bit h: the row's splice cell names bore hole h
-  std::array<std::string, 4> holeNames;  // as they stood, for kindHoles
+  std::vector<unsigned char> kindHoles;          // bit h: the row's splice cell names bore hole h
+  std::array<std::vector<long>, 4> sectionEnds;  // rows 1 to last - 1 that close a section
+  std::array<std::string, 4> holeNames;          // as they stood, for kindHoles
 };
 
 struct DerivedTables {

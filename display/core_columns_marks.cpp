@@ -36,31 +36,48 @@ void PrintAt(PictureBox& column, float x, double y, const std::string& text) {
   column.Print(text);
 }
 
+// A column and the stretch of the scale it shows, which the marks leave as
+// it is.
+struct ColumnView {
+  PictureBox* column = nullptr;
+  float top = 0;
+  float bottom = 0;
+};
+
 // The columns, each looked up where the first of its rows is drawn: a model
 // holds thousands of rows, most of them out of sight.
 class Columns {
  public:
   explicit Columns(MainForm& form) : form_(form) {}
-  PictureBox& operator()(int index) {
-    PictureBox*& found = found_[static_cast<std::size_t>(index)];
-    if (found == nullptr) found = &form_.BoreHole(index);
-    return *found;
+  const ColumnView& operator()(int index) {
+    ColumnView& found = found_[static_cast<std::size_t>(index)];
+    if (found.column == nullptr) {
+      found.column = &form_.BoreHole(index);
+      found.top = found.column->ScaleTop;
+      found.bottom = found.column->ScaleTop + found.column->ScaleHeight;
+    }
+    return found;
   }
 
  private:
   MainForm& form_;
-  std::array<PictureBox*, 5> found_{};
+  std::array<ColumnView, 5> found_{};
 };
 
 void MarkBoreHoleRow(BoreHoleSet& set, Columns& columns, const ModelRows& rows, int hole, long r,
                      double offset) {
   const Single depth = rows.Depth(hole, r);
   if (depth == 9999) return;
-  PictureBox& column = columns(hole);
+  const ColumnView& view = columns(hole);
   const double labelY = depth - offset;
-  if (!(depth > column.ScaleTop && column.ScaleTop + column.ScaleHeight > labelY)) return;
+  if (!(depth > view.top && view.bottom > labelY)) return;
+  PictureBox& column = *view.column;
   const std::string& label = rows.Label(hole, r);
-  const std::string text = label + " (" + std::as_const(set.ModelCell)(0, hole, 1, r) + " cm)";
+  const std::string& psp = std::as_const(set.ModelCell)(0, hole, 1, r);
+  // Made at once: thousands of labels are in view at a time.
+  std::string text;
+  text.reserve(label.size() + psp.size() + 6);
+  text.append(label).append(" (").append(psp).append(" cm)");
   const bool labelled = LabelFontSize > 1;
   if (rows.IsPinRow(hole, r)) {
     column.FillColor = kPinGreen;
@@ -81,10 +98,9 @@ void MarkBoreHoleRow(BoreHoleSet& set, Columns& columns, const ModelRows& rows, 
 void MarkTieRow(MainForm& form, Columns& columns, const ModelRows& rows, long r, double offset) {
   const Single tie = rows.Tie(r);
   if (tie == 9999) return;
-  PictureBox& composite = columns(0);
-  if (!(tie > composite.ScaleTop && composite.ScaleTop + composite.ScaleHeight > tie - offset)) {
-    return;
-  }
+  const ColumnView& view = columns(0);
+  if (!(tie > view.top && view.bottom > tie - offset)) return;
+  PictureBox& composite = *view.column;
   if (!form.mnuShowTiePoints.Checked) return;
   const std::string& name = rows.Kind(r);
   const long length = Len(name);

@@ -60,6 +60,7 @@ const ScaleRows& RowsOnScale(const BoreHoleSet& set, int scale) {
       rows.opens[slot] = IsSectionTop(label) ? 1 : 0;
       rows.pins[slot] = IsPin(label) ? 1 : 0;
       if (kind == set.HoleName(hole)) rows.kindHoles[r] |= static_cast<unsigned char>(1U << hole);
+      if (rows.closes[slot] != 0 && r >= 1 && r < last) rows.sectionEnds[hole - 1].push_back(r);
     }
   }
   rows.modelScale = model.Revision(scale);

@@ -29,6 +29,8 @@ class ModelRows {
   bool OpensSection(int hole, long row) const { return rows_.opens[Slot(hole, row)] != 0; }
   bool ClosesSection(int hole, long row) const { return rows_.closes[Slot(hole, row)] != 0; }
   bool IsPinRow(int hole, long row) const { return rows_.pins[Slot(hole, row)] != 0; }
+  // The rows from the first to the one before the last that close a section, in order.
+  const std::vector<long>& SectionEnds(int hole) const { return rows_.sectionEnds[hole - 1]; }
   // The first row after this one that opens a section, or the last row.
   long NextSectionStart(int hole, long row) const;
 

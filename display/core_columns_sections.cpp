@@ -24,8 +24,7 @@ template <class Visit>
 void ForEachSectionGap(MainForm& form, const ModelRows& rows, Visit visit) {
   for (int hole = 1; hole <= 4; ++hole) {
     PictureBox& column = form.BoreHole(hole);
-    for (long r = 1; r <= rows.LastRow() - 1; ++r) {
-      if (!rows.ClosesSection(hole, r)) continue;
+    for (const long r : rows.SectionEnds(hole)) {
       const long next = rows.NextSectionStart(hole, r);
       if (!(rows.DepthText(hole, next) > rows.DepthText(hole, r))) continue;
       const Single end = rows.Depth(hole, r);

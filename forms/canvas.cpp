@@ -65,7 +65,7 @@ void PictureBox::Written(std::string_view name, bool changed) {
   }
 }
 
-void PictureBox::Record(DrawOp op) {
+void PictureBox::Record(DrawOp&& op) {
   const float w = InnerWidth();
   const float h = InnerHeight();
   float left;

@@ -108,7 +108,7 @@ class PictureBox : public Control {
   void Written(std::string_view name, bool changed) override;
 
  private:
-  void Record(DrawOp op);
+  void Record(DrawOp&& op);
   // A line or a box between two points of the scale.
   DrawOp Segment(DrawKind kind, float x1, float y1, float x2, float y2, long colour) const;
   float ScaleW() const;
