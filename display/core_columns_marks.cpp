@@ -3,7 +3,6 @@
 // column, and the fixed horizon.
 #include <array>
 #include <string>
-#include <utility>
 
 #include "core/project_state.h"
 #include "display/core_columns_paint.h"
@@ -72,12 +71,7 @@ void MarkBoreHoleRow(BoreHoleSet& set, Columns& columns, const ModelRows& rows, 
   const double labelY = depth - offset;
   if (!(depth > view.top && view.bottom > labelY)) return;
   PictureBox& column = *view.column;
-  const std::string& label = rows.Label(hole, r);
-  const std::string& psp = std::as_const(set.ModelCell)(0, hole, 1, r);
-  // Made at once: thousands of labels are in view at a time.
-  std::string text;
-  text.reserve(label.size() + psp.size() + 6);
-  text.append(label).append(" (").append(psp).append(" cm)");
+  const std::string text = RowText(set, hole, r);
   const bool labelled = LabelFontSize > 1;
   if (rows.IsPinRow(hole, r)) {
     column.FillColor = kPinGreen;

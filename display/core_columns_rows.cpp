@@ -85,8 +85,8 @@ double ModelRows::Psp(int hole, long row) const {
   return Val(set_.ModelCell(axis_, hole, 1, row));
 }
 
-const std::string& ModelRows::Label(int hole, long row) const {
-  return set_.ModelCell(0, hole, 0, row);
+std::string RowText(const BoreHoleSet& set, int hole, long row) {
+  return set.ModelCell(0, hole, 0, row) + " (" + set.ModelCell(0, hole, 1, row) + " cm)";
 }
 
 long ModelRows::NextSectionStart(int hole, long row) const {

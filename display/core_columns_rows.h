@@ -13,6 +13,9 @@ namespace ostraline {
 // The rows on one scale, read anew when the model has changed since.
 const ScaleRows& RowsOnScale(const BoreHoleSet& set, int scale);
 
+// A row's lamina label with its PSP, as the columns and their tool tips show it.
+std::string RowText(const BoreHoleSet& set, int hole, long row);
+
 class ModelRows {
  public:
   explicit ModelRows(const BoreHoleSet& set);
@@ -24,8 +27,7 @@ class ModelRows {
   const std::string& DepthText(int hole, long row) const;
   // ModelCell(scale, hole, 1, row) as a number: the PSP on the composite scale.
   double Psp(int hole, long row) const;
-  // ModelCell(0, hole, 0, row): the lamina label, and what it marks.
-  const std::string& Label(int hole, long row) const;
+  // What the lamina label ModelCell(0, hole, 0, row) marks.
   bool OpensSection(int hole, long row) const { return rows_.opens[Slot(hole, row)] != 0; }
   bool ClosesSection(int hole, long row) const { return rows_.closes[Slot(hole, row)] != 0; }
   bool IsPinRow(int hole, long row) const { return rows_.pins[Slot(hole, row)] != 0; }

@@ -57,8 +57,7 @@ void ShowRows(MainForm& form, int index, Single y) {
   for (long row = 1; row <= set.LastRow; ++row) {
     const double depth = rows.holeDepthVal[static_cast<std::size_t>(row) * 4 + (index - 1)];
     if (Near(tolerance, depth, y)) {
-      form.BoreHole(index).ToolTipText =
-          set.ModelCell(0, index, 0, row) + " (" + set.ModelCell(0, index, 1, row) + " cm)";
+      form.BoreHole(index).ToolTipText = RowText(set, index, row);
     }
   }
 }
