@@ -10,6 +10,7 @@
 #include "events/event_state.h"
 #include "forms/frm_conversion.h"
 #include "forms/frm_main.h"
+#include "runtime/failure.h"
 #include "support/age_files.h"
 #include "support/model_files.h"
 
@@ -62,6 +63,14 @@ const Converted kPositionsConverted = {
 
 class BatchConversion : public AgeProgram {
  protected:
+  // What the ages of a conversion leave behind besides the file: the last
+  // lookup's rows and errors and the layers' row 0.
+  static std::string LeftBehind() {
+    return " rows " + std::to_string(AgeRowLower) + "-" + std::to_string(AgeRowUpper) + " errors " +
+           std::to_string(AgeErrorPlus) + "/" + std::to_string(AgeErrorMinus) + " layer 0 " +
+           std::to_string(EventTop(1, 0)) + "-" + std::to_string(EventBottom(1, 0));
+  }
+
   void ReadDataFile(const std::string& text) {
     platform.QueueFile(WriteTempFile("samples.csv", text));
     frmMain->Command2_Click();
@@ -299,7 +308,9 @@ TEST_F(BatchConversion, FailedOrCancelledSaveKeepsTheFileThatWasThere) {
 // rows written alongside, by a second thread. The later half is used only
 // where the rows read before it end exactly there: a quoted text or a row of
 // five fields across the middle, or a failure at the end, give what the
-// file gives read from its start alone.
+// file gives read from its start alone. Long files of values, and the ages
+// by varve count, convert as row by row too, and leave the last lookup's
+// rows and errors as row by row does.
 TEST_F(BatchConversion, LongFilesConvertAsRowByRow) {
   ImportAll();
   std::string data = kPositions;
@@ -318,17 +329,33 @@ TEST_F(BatchConversion, LongFilesConvertAsRowByRow) {
                  "\"" + data.substr(middleRow, 2) + std::string(4 * rowSize, 'q') + "\n\"");
   std::string fiveFields = data;
   fiveFields.replace(middleRow, rowSize, "S1,A,01,30,S2\r\n");
+  // Values of each scale, the missing and the unreadable among them.
+  std::string values[3] = {"Sample,Composite depth\r\nC1,135\r\nC2,155\r\nC3,240\r\n",
+                           "Sample,Age\r\nT1,2400\r\nT2,1200\r\nT3,900\r\n",
+                           "Sample,EFD\r\nE1,135\r\nE2,151\r\nE3,150\r\n"};
+  for (std::string& file : values) {
+    for (int i = 0; i < 1500; ++i)
+      file += "V,1" + std::to_string(i % 250) + ".5\r\nV,9999\r\nV,x\r\n";
+  }
+  std::vector<std::pair<std::string, std::string>> varves;
+  for (int i = 0; i <= 60; ++i)
+    varves.emplace_back(std::to_string(110 + 3 * i), std::to_string(5 * i + i % 4));
   for (const auto& [what, text] : {std::pair{"rows as they come", data},
                                    {"a quoted text across the middle", quoted},
                                    {"five fields in the middle", fiveFields},
-                                   {"a blank line at the end", data + "\r\n"}}) {
+                                   {"a blank line at the end", data + "\r\n"},
+                                   {"composite depths", values[0]},
+                                   {"ages", values[1]},
+                                   {"EFDs", values[2]},
+                                   {"with varves", data}}) {
+    if (what == std::string("with varves")) ImportVarves(varves);
     std::string converted[2];
     std::vector<std::string> messages[2];
     for (const bool fast : {false, true}) {
       FastLookups = fast;
       platform.messages.clear();
       converted[fast] = Convert(text);
-      converted[fast] += " rows " + std::to_string(ConversionRows);
+      converted[fast] += LeftBehind() + " rows " + std::to_string(ConversionRows);
       for (const auto& message : platform.messages) messages[fast].push_back(message.text);
     }
     EXPECT_TRUE(converted[true] == converted[false]) << what;
@@ -336,6 +363,9 @@ TEST_F(BatchConversion, LongFilesConvertAsRowByRow) {
     EXPECT_EQ(converted[false].size() > text.size(), messages[false].empty()) << what;
   }
   FastLookups = true;
+  EXPECT_NE(Convert(data), expected) << "the varves count";
+  ResetProgram();
+  ImportAll();
   EXPECT_TRUE(Convert(data) == expected);
 }
 
@@ -378,13 +408,20 @@ TEST_F(BatchConversion, LateFailuresLeaveWhatWasThere) {
     platform.messages.clear();
   };
   // The last sample, below the second control point, has an age that is no
-  // number.
-  ReadDataFile(data);
+  // number: with the fast lookups it fails as row by row, and leaves the same.
   AgeModel(7, 3) = "n/a";
-  output = WriteTempFile("converted.csv", "old rows\r\n");
-  platform.QueueFile(output);
-  frmConversion->Command1_Click();
-  expectFileKept("a failed age");
+  std::string failedAge[2];
+  for (const bool fast : {false, true}) {
+    FastLookups = fast;
+    ReadDataFile(data);
+    const long failures = LastFailure().serial;
+    output = WriteTempFile("converted.csv", "old rows\r\n");
+    platform.QueueFile(output);
+    frmConversion->Command1_Click();
+    failedAge[fast] = LeftBehind() + (LastFailure().serial == failures ? "" : LastFailure().detail);
+    expectFileKept("a failed age");
+  }
+  EXPECT_EQ(failedAge[true], failedAge[false]);
 
   // A file that may not grow beyond 64 kB fails while it is written.
   AgeModel(7, 3) = "3000";
