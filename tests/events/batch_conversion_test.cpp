@@ -1,5 +1,6 @@
 #include <sys/resource.h>
 
+#include <algorithm>
 #include <csignal>
 #include <filesystem>
 #include <string>
@@ -362,6 +363,13 @@ TEST_F(BatchConversion, LongFilesConvertAsRowByRow) {
     EXPECT_EQ(messages[true], messages[false]) << what;
     EXPECT_EQ(converted[false].size() > text.size(), messages[false].empty()) << what;
   }
+  // The table holds the rows read; after a failure, the row it failed in too.
+  const auto lines = static_cast<long>(std::count(data.begin(), data.end(), '\n'));
+  for (const bool blankLine : {false, true}) {
+    ReadDataFile(blankLine ? data + "\r\n" : data);
+    EXPECT_EQ(ConversionTable.UBound(2), blankLine ? lines : lines - 1);
+  }
+  platform.messages.clear();
   FastLookups = true;
   EXPECT_NE(Convert(data), expected) << "the varves count";
   ResetProgram();
