@@ -5,6 +5,7 @@
 // parsing the same cells again. Where a cell is no number the lookups read
 // the text as before, so that the same failure happens at the same place.
 #include <array>
+#include <cstdint>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -41,6 +42,18 @@ struct MarkerOrder {
   bool wholeCounts = false;
   std::vector<double> counted;  // the intervals of rows 1..i
   std::vector<Single> markers;  // rows 0 on, side by side for the searches
+  // Where the searches for a depth end, kept for the depths asked again and
+  // again (the control points of the age-depth model), by a hash of the
+  // depth's bits; emptied whenever the markers are read anew.
+  struct SearchedDepth {
+    std::uint32_t bits = 0;
+    bool known = false;
+    // The first row from 1 on whose marker lies beyond it, and at or beyond
+    // it; the row after the last where there is none.
+    long beyond = 0;
+    long atOrBeyond = 0;
+  };
+  mutable std::vector<SearchedDepth> searched;
 };
 
 // What the composite depth of a position reads of one row of the model for

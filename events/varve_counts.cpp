@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <cstring>
 #include <limits>
 
 #include "core/import_pattern.h"
@@ -49,6 +51,9 @@ void SetVarveLimits(BoreHoleSet& set) {
 
 namespace {
 
+// Depths whose searches are kept: more than an age-depth model has points.
+constexpr std::size_t kSearchedDepths = 1024;
+
 // What the searches know of the record, read anew when it has changed.
 const MarkerOrder& Order(BoreHoleSet& set) {
   const Table<Single, 2>& counts = set.VarveCounts;
@@ -87,6 +92,7 @@ const MarkerOrder& Order(BoreHoleSet& set) {
     }
     previous = count;
   }
+  order.searched.assign(kSearchedDepths, {});
   order.markerRevision = counts.Revision(0);
   order.countRevision = counts.Revision(1);
   order.tableSeen = counts.Revision();
@@ -135,6 +141,20 @@ long FirstMarkerFrom(const std::vector<Single>& markers, long from, long end, Si
   return from;
 }
 
+// The searches for a depth in a rising record, made once for each depth kept.
+const MarkerOrder::SearchedDepth& Searched(const MarkerOrder& order, Single depth) {
+  std::uint32_t bits = 0;
+  std::memcpy(&bits, &depth, sizeof bits);
+  MarkerOrder::SearchedDepth& kept =
+      order.searched[(bits * 0x9E3779B1u >> 16) % order.searched.size()];
+  if (!kept.known || kept.bits != bits) {
+    const auto rows = static_cast<long>(order.markers.size());
+    kept = {bits, true, FirstMarkerFrom(order.markers, 1, rows, depth, true),
+            FirstMarkerFrom(order.markers, 1, rows, depth, false)};
+  }
+  return kept;
+}
+
 // The intervals of rows from..end-1 summed as the walk sums them, one by
 // one from zero; at once where every partial sum is exact.
 Single IntervalsOf(const BoreHoleSet& set, const MarkerOrder& order, long from, long end) {
@@ -164,11 +184,14 @@ VarveSums VarveSumsAt(BoreHoleSet& set, Single depth, Single lowerDepth, Single 
                                  : nullptr;
   if (order != nullptr) {
     const std::vector<Single>& markers = order->markers;
-    first = FirstMarkerBeyond(markers, start);
-    // The walk's rows run to the first marker beyond the upper point; in a
-    // rising record those of each side lie together.
-    const long last = static_cast<long>(markers.size()) - 1;
-    const long end = FirstMarkerFrom(markers, first, last, upperDepth, true) + 1;
+    first = Searched(*order, start).beyond;
+    // The walk's rows run to the first marker beyond the upper point, which
+    // lies before the last. Where the walk stops before it passes the start
+    // (the upper point lies above it), neither side has a marker to count.
+    const MarkerOrder::SearchedDepth& upper = Searched(*order, upperDepth);
+    if (upper.beyond < first) return sums;
+    // In a rising record the rows of each side lie together.
+    const long end = upper.beyond + 1;
     // The walk began beyond the lower of the lower point and the depth: with
     // the lower point above the depth its side begins there, else it is empty
     // and the other side begins there.
@@ -179,7 +202,7 @@ VarveSums VarveSumsAt(BoreHoleSet& set, Single depth, Single lowerDepth, Single 
       aboveFrom = belowEnd;
       while (aboveFrom < end && !(markers[static_cast<std::size_t>(aboveFrom)] > depth)) ++aboveFrom;
     }
-    const long aboveEnd = FirstMarkerFrom(markers, aboveFrom, end, upperDepth, false);
+    const long aboveEnd = std::clamp(upper.atOrBeyond, aboveFrom, end);
     sums.below = IntervalsOf(set, *order, first, belowEnd);
     sums.above = IntervalsOf(set, *order, aboveFrom, aboveEnd);
     return sums;

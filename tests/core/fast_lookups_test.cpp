@@ -2,6 +2,7 @@
 // against the same lookups parsing every cell as it stands: the sample
 // project, and the same project spoiled with cells that are no numbers,
 // 9999 cells, equal and falling depths, ages and markers.
+#include <cmath>
 #include <cstdint>
 #include <filesystem>
 #include <sstream>
@@ -68,12 +69,18 @@ std::string Sweep() {
     record("ageEfd", [&] { return GetAgeFromEFD(x); });
     record("efdAge", [&] { return GetEFDFromAge(x); });
     record("efdAge", [&] { return GetEFDFromAge(static_cast<Single>(d * 7)); });
-    try {
-      const VarveSums sums = VarveSumsAt(x, x - 40, x + 35);
-      out << "varves " << sums.below << " " << sums.above << " "
-          << VarveOffset(x - 40, x + 35, 3, 5) << "\n";
-    } catch (const RuntimeFailure& failure) {
-      out << "varves fail " << FailureName(failure.Kind()) << "\n";
+    // Control points in order, the wrong way round on either side of the
+    // depth and above it, and with the upper one just short of the last marker.
+    const Single nearLast = std::nextafter(VarveCounts(0, VarveCountRows), 0.0f);
+    for (const auto& [lower, upper] :
+         {std::pair{x - 40, x + 35}, {x + 35, x - 40}, {x - 40, x - 80}, {x - 40, nearLast}}) {
+      try {
+        const VarveSums sums = VarveSumsAt(x, lower, upper);
+        out << "varves " << sums.below << " " << sums.above << " "
+            << VarveOffset(lower, upper, 3, 5) << "\n";
+      } catch (const RuntimeFailure& failure) {
+        out << "varves fail " << FailureName(failure.Kind()) << "\n";
+      }
     }
   }
   // Control points exactly at markers, which count for neither side.
