@@ -79,11 +79,15 @@ FormWindow::FormWindow(Form& form) : form_(&form), canvas_(new FormCanvas(form, 
   }
   menuBar()->setVisible(hasMenuBar_);
   for (Control* control : form.Controls()) Bind(*control);
-  for (auto& [control, adapter] : adapters_) {
-    adapter->Sync({});
-    // Pictures lie under the other controls: the panels' boxes and the
-    // slider beside the scale strip overlap them.
-    if (control->Kind() == ControlKind::PictureBox) adapter->Widget()->lower();
+  for (auto& entry : adapters_) entry.second->Sync({});
+  // Pictures lie under the other controls: the panels' boxes and the slider
+  // beside the scale strip overlap them. Among themselves they keep the
+  // form's order, a later one over an earlier one, at every start: each is
+  // lowered under those after it.
+  const std::vector<Control*>& controls = form.Controls();
+  for (auto control = controls.rbegin(); control != controls.rend(); ++control) {
+    if ((*control)->Kind() != ControlKind::PictureBox) continue;
+    if (ControlAdapter* adapter = AdapterOf(**control)) adapter->Widget()->lower();
   }
   SyncForm({});
 }

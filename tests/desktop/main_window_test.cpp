@@ -55,6 +55,19 @@ TEST_F(MainWindow, ShowsTheCaptionControlsAndMenuBarAndImportsThroughTheDialog) 
   EXPECT_EQ(WidgetOf<QWidget>(frmMain->BoreHole(1))->geometry(), QRect(208, 16, 65, 585));
   // The slider (7590 to 7845) overlaps the scale strip (from 7680) and stays on top of it.
   EXPECT_EQ(window->centralWidget()->childAt(518, 300), WidgetOf<QWidget>(frmMain->Slider1));
+  // Among themselves the pictures keep the form's order, a later one on top,
+  // at every start.
+  const QObjectList stack = window->centralWidget()->children();
+  qsizetype pictures = 0;
+  qsizetype below = -1;
+  for (Control* control : frmMain->Controls()) {
+    const qsizetype at = stack.indexOf(WidgetOf<QWidget>(*control));
+    if (control->Kind() != ControlKind::PictureBox || at < 0) continue;
+    EXPECT_GT(at, below) << control->Name();
+    below = at;
+    ++pictures;
+  }
+  EXPECT_GT(pictures, 10);
 
   // An entry captioned "-" is a separator line and shows no text beside it.
   QStringList shown;
