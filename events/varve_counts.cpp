@@ -6,7 +6,6 @@
 #include <cmath>
 #include <cstdint>
 #include <cstring>
-#include <limits>
 
 #include "core/import_pattern.h"
 #include "core/project_state.h"
@@ -110,21 +109,6 @@ const MarkerOrder* MarkersRisingBeyond(BoreHoleSet& set, Single beyond) {
   return order.rising && beyond < order.markers.back() ? &order : nullptr;
 }
 
-// The first row from 1 on whose marker lies beyond `depth`, in a rising record.
-long FirstMarkerBeyond(const std::vector<Single>& markers, Single depth) {
-  long low = 1;
-  long high = static_cast<long>(markers.size()) - 1;
-  while (low < high) {
-    const long middle = low + (high - low) / 2;
-    if (markers[static_cast<std::size_t>(middle)] > depth) {
-      high = middle;
-    } else {
-      low = middle + 1;
-    }
-  }
-  return low;
-}
-
 // The first row from `from` on whose marker lies at or beyond `depth` (or
 // beyond it, when `beyond`), in a rising record; `end` if none before it.
 long FirstMarkerFrom(const std::vector<Single>& markers, long from, long end, Single depth,
@@ -188,7 +172,7 @@ VarveSums VarveSumsAt(BoreHoleSet& set, Single depth, Single lowerDepth, Single 
     // The walk's rows run to the first marker beyond the upper point, which
     // lies before the last. Where the walk stops before it passes the start
     // (the upper point lies above it), neither side has a marker to count.
-    const MarkerOrder::SearchedDepth& upper = Searched(*order, upperDepth);
+    const MarkerOrder::SearchedDepth upper = Searched(*order, upperDepth);
     if (upper.beyond < first) return sums;
     // In a rising record the rows of each side lie together.
     const long end = upper.beyond + 1;
@@ -227,8 +211,7 @@ Single VarveOffset(BoreHoleSet& set, Single lowerDepth, Single upperDepth, Singl
   // A marker at or below each point ends each search.
   if (const MarkerOrder* order =
           lowerDepth <= upperDepth ? MarkersRisingBeyond(set, upperDepth) : nullptr) {
-    i = FirstMarkerBeyond(order->markers,
-                          std::nextafter(lowerDepth, -std::numeric_limits<Single>::max()));
+    i = Searched(*order, lowerDepth).atOrBeyond;
   }
   while (!(lowerDepth <= counts(0, i))) ++i;
   const long anchor = i - 1;
