@@ -105,7 +105,7 @@ void DepthValueRow(BoreHoleSet& set, ConvertedRowWriter& row, long r, const Colu
     if (FromKind == kScaleEfd) MasterColumn(set, row, header, ValueTable(3, r));
   }
   if (Wants(kScaleAge)) {
-    const Variant& efd = FromKind == kScaleComposite ? ValueTable(3, r) : ValueTable(2, r);
+    const Variant efd = ValueTable(FromKind == kScaleComposite ? 3 : 2, r);
     AgeColumns(set, row, header, titles, efd);
   }
 }
@@ -139,15 +139,17 @@ void PositionRow(BoreHoleSet& set, ConvertedRowWriter& row, long r, const Column
   const auto& converted = std::as_const(ConversionTable);
   for (int column = 0; column <= 3; ++column) row.Value(converted(column, r));
   if (Wants(kScaleComposite)) {
+    const Variant cd = converted(4, r);
     if (header) {
-      row.Value(converted(4, 0));
+      row.Value(cd);
     } else {
-      row.Number(Round(converted(4, r).ToDouble(), DepthPrecision));
+      row.Number(Round(cd.ToDouble(), DepthPrecision));
     }
-    MasterColumn(set, row, header, converted(4, r));
+    MasterColumn(set, row, header, cd);
   }
-  if (Wants(kScaleEfd)) row.Value(converted(5, r));
-  if (Wants(kScaleAge)) AgeColumns(set, row, header, titles, converted(5, r));
+  const Variant efd = converted(5, r);
+  if (Wants(kScaleEfd)) row.Value(efd);
+  if (Wants(kScaleAge)) AgeColumns(set, row, header, titles, efd);
 }
 
 }  // namespace

@@ -43,7 +43,7 @@ long TakeLaterRows(LaterRowsReader& later, long row) {
     for (std::size_t cell = 0; cell < block.size(); cell += 4) {
       ++row;
       for (int column = 0; column <= 3; ++column) {
-        ConversionTable(column, row) = std::move(block[cell + static_cast<std::size_t>(column)]);
+        ConversionTable.Set(column, row, block[cell + static_cast<std::size_t>(column)]);
       }
     }
     LaterRowsReader::Block().swap(block);
@@ -55,7 +55,7 @@ void ReadPositionFile(BoreHoleSet& set, MainForm& form, FieldReader& file,
                       const FirstRecords& first) {
   Screen.SetMousePointer(11);
   ConversionTable.Dim({{0, 5}, {0, 1}});
-  for (int i = 0; i < 8; ++i) ConversionTable(i % 4, i / 4) = first[i];
+  for (int i = 0; i < 8; ++i) ConversionTable.SetText(i % 4, i / 4, first[i]);
   // A second thread reads the later half of a long file meanwhile.
   constexpr std::size_t kReadAheadFrom = 1 << 20;
   LaterRowsReader later(form.CommonDialog1.FileName, 4,
@@ -69,14 +69,14 @@ void ReadPositionFile(BoreHoleSet& set, MainForm& form, FieldReader& file,
     ++row;
     ConversionTable.ReDimPreserve(row);
     for (int column = 0; column <= 3; ++column) {
-      ConversionTable(column, row) = Variant(file.ReadTextView());
+      ConversionTable.SetText(column, row, file.ReadTextView());
     }
   }
   ConversionRows = row;
 
   const ColumnTitles titles = MakeColumnTitles(set);
-  ConversionTable(4, 0) = titles.composite;
-  if (set.EventListLoaded) ConversionTable(5, 0) = titles.efd;
+  ConversionTable.SetText(4, 0, titles.composite);
+  if (set.EventListLoaded) ConversionTable.SetText(5, 0, titles.efd);
   ConvertPositionRows(set, form);
   ResetProgress(form);
   InputKind = kScaleTrinity;
@@ -101,13 +101,13 @@ void ReadValueFile(BoreHoleSet& set, MainForm& form, FieldReader& file, const Fi
     return;
   }
   ValueTable.Dim({{0, 3}, {0, 3}});
-  for (int i = 0; i < 8; ++i) ValueTable(1 + i % 2, i / 2) = first[i];
+  for (int i = 0; i < 8; ++i) ValueTable.SetText(1 + i % 2, i / 2, first[i]);
   long row = 3;
   while (!file.Eof()) {
     ++row;
     ValueTable.ReDimPreserve(row);
-    ValueTable(1, row) = file.ReadVariant();
-    ValueTable(2, row) = file.ReadVariant();
+    ValueTable.Set(1, row, file.ReadVariant());
+    ValueTable.Set(2, row, file.ReadVariant());
   }
   ValueRows = row;
   InputKind = ScaleOfHeader(ValueTable(2, 0).ToText());

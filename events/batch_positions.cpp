@@ -172,10 +172,9 @@ class EfdsBehind {
   };
 
   static void MakeEfds(BoreHoleSet& set, Efds& efds) {
-    const auto& given = std::as_const(ConversionTable);
     efds.efds.clear();
     for (const long row : efds.rows) {
-      const Variant& cd = given(4, row);
+      const Variant cd = ConversionTable(4, row);
       const std::optional<Single> value = SingleOfCell(cd);
       efds.efds.push_back(value ? CDToEFD(set, *value) : cd);
     }
@@ -194,7 +193,7 @@ class EfdsBehind {
     Efds done;
     while (work_.TakeDone(done)) {
       for (std::size_t i = 0; i < done.rows.size(); ++i) {
-        ConversionTable(5, done.rows[i]) = std::move(done.efds[i]);
+        ConversionTable.Set(5, done.rows[i], done.efds[i]);
       }
       done.rows.clear();
       if (room != nullptr) *room = std::move(done);
@@ -240,8 +239,6 @@ void ConvertPositionRows(BoreHoleSet& set, MainForm& form) {
   form.ProgressBar1.Max = static_cast<float>(ConversionRows);
   form.ProgressBar1.Value = 0;
   form.ProgressBar1.Visible = true;
-  // Reads leave the table's revision as it is.
-  const auto& given = std::as_const(ConversionTable);
   HoleNumbers holes(set, other);
   SectionOrdinals sections(set, other);
   constexpr long kEfdsBehindFrom = 4096;
@@ -255,22 +252,19 @@ void ConvertPositionRows(BoreHoleSet& set, MainForm& form) {
   for (long row = 1; row <= ConversionRows; ++row) {
     try {
       form.ProgressBar1.Value = static_cast<float>(row);
-      const Variant& psp = given(3, row);
-      if (const std::optional<double> value = ValueOfCell(psp)) {
-        const int hole = holes.Of(given(1, row));
-        ConversionTable(4, row) =
-            CompositeOfPosition(set, hole, sections.Of(hole, given(2, row)), *value);
-      } else {
-        ConversionTable(4, row) = psp;
+      Variant cd = ConversionTable(3, row);
+      if (const std::optional<double> value = ValueOfCell(cd)) {
+        const int hole = holes.Of(ConversionTable(1, row));
+        cd = CompositeOfPosition(set, hole, sections.Of(hole, ConversionTable(2, row)), *value);
       }
+      ConversionTable.Set(4, row, cd);
       if (!set.EventListLoaded) continue;
-      const Variant& cd = given(4, row);
       if (behind && behind->Takes(row, cd)) continue;
       if (const std::optional<Single> value = SingleOfCell(cd)) {
         if (behind) behind->CatchUp();
-        ConversionTable(5, row) = CDToEFD(set, *value);
+        ConversionTable.Set(5, row, CDToEFD(set, *value));
       } else {
-        ConversionTable(5, row) = cd;
+        ConversionTable.Set(5, row, cd);
       }
     } catch (const RuntimeFailure&) {
       // The rows before this one have their EFDs, as they would have had.

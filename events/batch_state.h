@@ -5,8 +5,8 @@
 #include <string>
 
 #include "runtime/checked_int.h"
-#include "runtime/table.h"
 #include "runtime/variant.h"
+#include "runtime/variant_table.h"
 
 namespace ostraline {
 
@@ -25,10 +25,10 @@ struct BatchState {
   // Input given as a position: columns 0..5, rows 0..ConversionRows. Columns
   // 0 to 3 are label, bore hole, section and PSP as read; 4 the composite
   // depth, 5 the EFD. Row 0 is the header.
-  Table<Variant, 2> ConversionTable;
+  VariantTable ConversionTable;
   // Input given as one value per sample: columns 0..3, rows 0..ValueRows.
   // Column 1 the label, 2 the value, 3 the first pass's result; 0 holds nothing.
-  Table<Variant, 2> ValueTable;
+  VariantTable ValueTable;
   Currency ConversionRows = 0;
   Currency ValueRows = 0;
   // What the file was found to hold, the scale chosen under " From ", and the

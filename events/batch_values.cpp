@@ -31,15 +31,15 @@ bool ConvertValuesFirstPass(BoreHoleSet& set, MainForm& form, const ColumnTitles
   } else {
     return false;
   }
-  ValueTable(3, 0) = FromKind == kScaleEfd ? titles.composite : titles.efd;
+  ValueTable.SetText(3, 0, FromKind == kScaleEfd ? titles.composite : titles.efd);
   form.ProgressBar1.Max = static_cast<float>(ValueRows);
   for (long row = 1; row <= ValueRows; ++row) {
     form.ProgressBar1.Value = static_cast<float>(row);
-    const Variant& given = ValueTable(2, row);
+    const Variant given = ValueTable(2, row);
     if (const std::optional<Single> value = SingleOfCell(given)) {
-      ValueTable(3, row) = convert(set, *value);
+      ValueTable.Set(3, row, convert(set, *value));
     } else {
-      ValueTable(3, row) = given;
+      ValueTable.Set(3, row, given);
     }
   }
   return true;

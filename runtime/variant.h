@@ -11,8 +11,8 @@
 
 namespace ostraline {
 
-// A batch conversion holds a million rows of six of these, so a value takes
-// 16 bytes: the number or a short text inline, a longer text on the heap.
+// Tables hold many thousands of these, so a value takes 16 bytes: the
+// number or a short text inline, a longer text on the heap.
 class Variant {
  public:
   Variant() noexcept = default;
@@ -68,6 +68,8 @@ class Variant {
   // Equal only in the same kind: a whole 1 is not a double 1, and a NaN is
   // equal to nothing.
   friend bool operator==(const Variant& a, const Variant& b);
+  // Packs a variant's kind and bytes into its own cells.
+  friend class VariantTable;
 
  private:
   enum class Kind : unsigned char { Empty, Whole, Single, Double, ShortText, LongText };

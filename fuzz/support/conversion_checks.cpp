@@ -49,7 +49,7 @@ long ExpectedLineEnds() {
   for (long r = 0; r <= ValueRows; ++r) {
     for (int column = 1; column <= 2; ++column) count += LineEnds(ValueTable(column, r).ToText());
     // A missing EFD's cell is copied as it stands into the unit column.
-    const Variant& efd = ValueTable(FromKind == kScaleEfd ? 2 : 3, r);
+    const Variant efd = ValueTable(FromKind == kScaleEfd ? 2 : 3, r);
     const float value = static_cast<float>(efd.TextValue());
     if (r > 0 && ages && (value == 9999 || value == -9999)) count += LineEnds(efd.ToText());
   }
