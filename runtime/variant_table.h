@@ -4,6 +4,7 @@
 // a text of up to eight characters; a longer text lies in the table's store
 // of texts. A cell reads back as the very variant that was written to it.
 #include <cstdint>
+#include <cstring>
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -28,24 +29,33 @@ class VariantTable {
   long UBound(int dim = 1) const { return cells_.UBound(dim); }
 
   // Outside the bounds, as in any table, a subscript failure.
-  Variant operator()(long column, long row) const;
+  Variant operator()(long column, long row) const {
+    const Cell& cell = cells_(column, row);
+    const auto kind = static_cast<Variant::Kind>(cell.bytes[0] & 0x0f);
+    if (kind == Variant::Kind::LongText) return StoredText(cell);
+    Variant value;
+    std::memcpy(value.bytes_, cell.bytes + 1, kPayload);
+    value.shortSize_ = cell.bytes[0] >> 4;
+    value.kind_ = kind;
+    return value;
+  }
   void Set(long column, long row, const Variant& value);
   // A text read from a file, without making a variant of it first.
   void SetText(long column, long row, std::string_view text);
 
  private:
+  static constexpr std::size_t kPayload = 8;
   struct Cell {
-    // The kind in the low bits, an inline text's length in the high ones;
-    // then the payload.
-    unsigned char bytes[9];
+    // The variant's kind in the low bits, a short text's length in the high
+    // ones; then the first bytes of the variant's own. A long text is one
+    // the table stores, and the payload says where.
+    unsigned char bytes[1 + kPayload];
   };
-  enum Kind : unsigned char { kEmpty, kWhole, kSingle, kDouble, kInlineText, kStoredText };
-  static constexpr std::size_t kInline = 8;
   static constexpr std::size_t kChunk = 1 << 20;
 
   // Where a long text begins in the store: the chunk, then the place in it.
   std::uint64_t Store(std::string_view text);
-  std::string_view Stored(std::uint64_t where) const;
+  Variant StoredText(const Cell& cell) const;
 
   Table<Cell, 2> cells_;
   // Texts go into chunks of a megabyte, so that a store grown by a million
