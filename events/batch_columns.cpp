@@ -137,7 +137,7 @@ void AgeValueRow(BoreHoleSet& set, ConvertedRowWriter& row, long r, const Column
 void PositionRow(BoreHoleSet& set, ConvertedRowWriter& row, long r, const ColumnTitles& titles) {
   const bool header = r == 0;
   const auto& converted = std::as_const(ConversionTable);
-  for (int column = 0; column <= 3; ++column) row.Value(converted(column, r));
+  row.Cells(converted, r, 0, 3);
   if (Wants(kScaleComposite)) {
     const Variant cd = converted(4, r);
     if (header) {

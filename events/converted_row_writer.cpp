@@ -28,6 +28,17 @@ void ConvertedRowWriter::Value(const Variant& value) {
   }
 }
 
+void ConvertedRowWriter::Cells(const VariantTable& table, long row, int firstColumn,
+                               int lastColumn) {
+  if (writer_) {
+    gathered_.tableCells.push_back({&table, row, firstColumn, lastColumn,
+                                    static_cast<std::uint32_t>(gathered_.rowEnds.size()),
+                                    static_cast<std::uint32_t>(gathered_.cells.size())});
+  } else {
+    WriteCells(text_, {&table, row, firstColumn, lastColumn, 0, 0});
+  }
+}
+
 void ConvertedRowWriter::EndRow() {
   if (!writer_) {
     EndRowInText();
@@ -51,16 +62,33 @@ void ConvertedRowWriter::Send() {
   // A batch written lends its room to the next.
   if (writer_->TakeDone(next)) {
     next.cells.clear();
+    next.tableCells.clear();
     next.rowEnds.clear();
   }
   writer_->Give(std::exchange(gathered_, std::move(next)));
 }
 
 void ConvertedRowWriter::Write(const Rows& rows) {
-  std::size_t cell = 0;
-  for (const std::uint32_t end : rows.rowEnds) {
-    for (; cell < end; ++cell) text_.Value(rows.cells[cell]);
+  std::uint32_t cell = 0;
+  auto fromTable = rows.tableCells.begin();
+  for (std::uint32_t row = 0; row < rows.rowEnds.size(); ++row) {
+    const std::uint32_t end = rows.rowEnds[row];
+    for (;; ++cell) {
+      for (; fromTable != rows.tableCells.end() && fromTable->inRow == row &&
+             fromTable->before == cell;
+           ++fromTable) {
+        WriteCells(text_, *fromTable);
+      }
+      if (cell == end) break;
+      text_.Value(rows.cells[cell]);
+    }
     EndRowInText();
+  }
+}
+
+void ConvertedRowWriter::WriteCells(FieldWriter& text, const TableCells& cells) {
+  for (int column = cells.firstColumn; column <= cells.lastColumn; ++column) {
+    text.Value((*cells.table)(column, cells.row));
   }
 }
 
