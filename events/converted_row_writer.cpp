@@ -35,7 +35,7 @@ void ConvertedRowWriter::Cells(const VariantTable& table, long row, int firstCol
                                     static_cast<std::uint32_t>(gathered_.rowEnds.size()),
                                     static_cast<std::uint32_t>(gathered_.cells.size())});
   } else {
-    WriteCells(text_, {&table, row, firstColumn, lastColumn, 0, 0});
+    WriteCells({&table, row, firstColumn, lastColumn, 0, 0});
   }
 }
 
@@ -77,7 +77,7 @@ void ConvertedRowWriter::Write(const Rows& rows) {
       for (; fromTable != rows.tableCells.end() && fromTable->inRow == row &&
              fromTable->before == cell;
            ++fromTable) {
-        WriteCells(text_, *fromTable);
+        WriteCells(*fromTable);
       }
       if (cell == end) break;
       text_.Value(rows.cells[cell]);
@@ -86,9 +86,9 @@ void ConvertedRowWriter::Write(const Rows& rows) {
   }
 }
 
-void ConvertedRowWriter::WriteCells(FieldWriter& text, const TableCells& cells) {
+void ConvertedRowWriter::WriteCells(const TableCells& cells) {
   for (int column = cells.firstColumn; column <= cells.lastColumn; ++column) {
-    text.Value((*cells.table)(column, cells.row));
+    text_.Value((*cells.table)(column, cells.row));
   }
 }
 

@@ -57,7 +57,7 @@ class ConvertedRowWriter {
 
   void Send();
   void Write(const Rows& rows);
-  static void WriteCells(FieldWriter& text, const TableCells& cells);
+  void WriteCells(const TableCells& cells);
   // Ends the row in the text, which goes to the file once it is long enough.
   void EndRowInText();
 

@@ -7,6 +7,8 @@ namespace ostraline {
 
 // Nothing is derived from these tables: their cells need no revisions.
 void VariantTable::Set(long column, long row, const Variant& value) {
+  // A variant's kind fits the low bits of a cell's first byte.
+  static_assert(static_cast<unsigned>(Variant::Kind::LongText) < 16);
   const bool shortText = value.kind_ == Variant::Kind::ShortText;
   if (value.kind_ == Variant::Kind::LongText || (shortText && value.shortSize_ > kPayload)) {
     SetText(column, row, value.Text());
