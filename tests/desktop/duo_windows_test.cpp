@@ -12,12 +12,11 @@
 #include "forms/frm2_main.h"
 #include "forms/frm_main.h"
 #include "shell_fixture.h"
+#include "support/age_files.h"
 #include "support/model_files.h"
 
 namespace ostraline {
 namespace {
-
-const char* const kNoLayer = "Hole,Section,Top,Bottom,Description\r\n";
 
 class DuoWindows : public ShellTest {
  protected:

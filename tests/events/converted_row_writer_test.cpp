@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <sstream>
 #include <string>
 
 #include "events/batch_output_file.h"
@@ -54,10 +52,7 @@ TEST(ConvertedRowWriter, tableCellsComeOutWhereTheyWereGiven) {
       rows.Finish();
       out.Commit();
     }
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
+    return FileContents(path);
   };
   const std::string atOnce = write(false);
   const std::string first =
