@@ -71,17 +71,20 @@ void ConvertedRowWriter::Send() {
 void ConvertedRowWriter::Write(const Rows& rows) {
   std::uint32_t cell = 0;
   auto fromTable = rows.tableCells.begin();
+  // The table cells given in this row before the gathered cell at hand.
+  const auto writeTableCells = [&](std::uint32_t row) {
+    for (;
+         fromTable != rows.tableCells.end() && fromTable->inRow == row && fromTable->before == cell;
+         ++fromTable) {
+      WriteCells(*fromTable);
+    }
+  };
   for (std::uint32_t row = 0; row < rows.rowEnds.size(); ++row) {
-    const std::uint32_t end = rows.rowEnds[row];
-    for (;; ++cell) {
-      for (; fromTable != rows.tableCells.end() && fromTable->inRow == row &&
-             fromTable->before == cell;
-           ++fromTable) {
-        WriteCells(*fromTable);
-      }
-      if (cell == end) break;
+    for (; cell < rows.rowEnds[row]; ++cell) {
+      writeTableCells(row);
       text_.Value(rows.cells[cell]);
     }
+    writeTableCells(row);
     EndRowInText();
   }
 }
